@@ -16,6 +16,7 @@ STATUS = re.compile(r"(0x[0-9A-F]{8})  \S")
 
 def check(catalogue):
     once(catalogue.rooms, lambda room: room.stem, lambda room: RowError(room.file, "", "a second file of this name"))
+    check_uniqueness(catalogue)
     check_constants(catalogue)
     for row in catalogue.rows("enums"):
         check_enum(row)
@@ -25,7 +26,6 @@ def check(catalogue):
         check_attribute(row, catalogue)
     for row in catalogue.rows("operations"):
         check_operation(row, catalogue)
-    check_uniqueness(catalogue)
 
 
 def once(rows, key, complaint):
@@ -98,8 +98,6 @@ def check_attribute(row, catalogue):
         name = getattr(row, key)
         if name is not None and not IDENTIFIER.fullmatch(name):
             row.fail(f"'{key}' is no C identifier")
-    if row.sim is not None:
-        check_sim(row)
     if row.frame == "forward":
         check_forward(row, catalogue)
     elif row.frame == "custom":
@@ -107,6 +105,8 @@ def check_attribute(row, catalogue):
     else:
         check_wire(row)
     check_map(row, catalogue)
+    if row.sim is not None:
+        check_sim(row)
 
 
 def check_sim(row):

@@ -4,7 +4,7 @@ import re
 
 from functions import functions
 from load import PREFIX
-from output import call, outside_code, paragraphs, wrap
+from output import listing, outside_code, paragraphs, wrap
 
 HEAD = f"""\
 /**
@@ -64,7 +64,7 @@ def comment(lines):
 
 
 def block(words, indent=""):
-    return wrap(words, width=117, rest=indent)
+    return wrap(words, rest=indent)
 
 
 def prose(words):
@@ -107,20 +107,20 @@ def emit_function(function):
     width = max((len(parameter.name) for parameter in function.parameters), default=0)
     for parameter in function.parameters:
         head = f"@param {parameter.name.ljust(width)}  "
-        lines += wrap(text(parameter.doc), first=head, rest=" " * len(head), width=117)
+        lines += wrap(text(parameter.doc), first=head, rest=" " * len(head))
     lines += block(f"@return {function.success} or a negative status:" if function.statuses else
                    f"@return {function.success}.", "        ")
     for status in function.statuses:
         code = status[:12] if status.startswith("0x") else ""
         lines += [line for line in wrap(text(status[len(code):]), first=" " * 8 + code,
-                                        rest=" " * (8 + len(code)), width=117)]
+                                        rest=" " * (8 + len(code)))]
     if function.wire or function.simulated:
         lines += ["", *(block(text(function.wire)) if function.wire else []),
                   *(block(text(function.simulated)) if function.simulated else [])]
     if function.see:
         lines += block(f"@see {', '.join(function.see)}", "     ")
     head, arguments = function.prototype(f"{PREFIX}_API ", "_VI_FUNC ")
-    return f"{comment(lines)}\n{call(head, arguments or ['void'], ';')}"
+    return f"{comment(lines)}\n{listing(head + '(', arguments or ['void'], ');')}"
 
 
 def emit_room(room, catalogue, printed):

@@ -85,7 +85,7 @@ def function_section(function):
     parameters = [(f"`{parameter.name}`", prose(parameter.doc)) for parameter in function.parameters]
     return [f"### {function.name}", f"```c\n{prototype}\n```", prose(function.brief),
             *body(function.detail), *table(("Parameter", "Meaning"), parameters),
-            f"Returns {prose(function.success)}{' or a failure:' if statuses else '.'}",
+            f"Returns {prose(function.success)}{' or a negative status:' if statuses else '.'}",
             *table(("Status", "When"), statuses),
             *(prose(text) for text in (function.wire, function.simulated) if text),
             *([f"See {', '.join(f'`{name}`' for name in function.see)}."] if function.see else [])]

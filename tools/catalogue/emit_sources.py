@@ -1,7 +1,7 @@
 """Prints the C++ of the library that follows from the rows alone: one function here for one file there."""
 
 from load import C_TYPES, PREFIX, camel
-from output import GENERATED, literal
+from output import GENERATED, function_body, listing, literal
 
 ROW_TYPES = {"boolean": "BooleanRow", "enum": "EnumRow", "integer": "IntegerRow", "real": "RealRow",
              "string": "TextRow"}
@@ -13,7 +13,7 @@ def emit_sources(catalogue):
         "handlers.h": handlers_header(catalogue), "operations.h": operations_header(catalogue),
         "registry.cpp": registry_source(catalogue), "exports.cpp": exports_source(catalogue),
         "enums.h": enums_header(catalogue), "enums.cpp": enums_source(catalogue),
-        "errors.h": errors_header(catalogue), "errors.cpp": errors_source(catalogue),
+        "error_codes.h": error_codes_header(catalogue), "error_table.cpp": error_table_source(catalogue),
     }
     return files | {f"{room.stem}_rows.cpp": rows_source(room) for room in catalogue.rooms if room.attributes}
 
@@ -74,20 +74,19 @@ def rows_source(room):
     constants, handlers = [], []
     for row in rows:
         kind, fields = constant(row)
-        constants.append(f"constexpr tvr::{kind} {row.constant}{{{row.macro}, {literal(row.macro)}, "
-                         f"{', '.join(fields)}}};")
+        constants.append(listing(f"constexpr tvr::{kind} {row.constant}{{", [row.macro, literal(row.macro), *fields], "};"))
         value = "size, value" if row.type == "string" else "value"
         if row.readable:
-            handlers.append(f"{get_handler(row)} {{ return tvr::GetValue({row.constant}, vi, {value}); }}")
+            handlers.append(function_body(get_handler(row), f"return tvr::GetValue({row.constant}, vi, {value});"))
         if row.writable:
-            handlers.append(f"{set_handler(row)} {{ return tvr::SetValue({row.constant}, vi, value); }}")
+            handlers.append(function_body(set_handler(row), f"return tvr::SetValue({row.constant}, vi, value);"))
     return (f"{GENERATED}#include \"Tvr.h\"\n#include \"enums.h\"\n#include \"handlers.h\"\n\nnamespace {{\n\n"
             + "\n".join(constants) + "\n\n}  // namespace\n\n" + "\n".join(handlers) + "\n")
 
 
 def operations_header(catalogue):
-    lines = [f"constexpr Operation k{row.name[0].upper()}{row.name[1:]}{{{literal(row.function)}, "
-             f"{literal(row.outputs)}, {literal(row.write)}, {literal(row.query)}, {literal(row.scan)}}};"
+    lines = [listing(f"constexpr Operation k{row.name[0].upper()}{row.name[1:]}{{",
+                     [literal(text) for text in (row.function, row.outputs, row.write, row.query, row.scan)], "};")
              for row in catalogue.operations]
     return (f"{GENERATED}// Name, outputs, write, query, scan.\n#pragma once\n\n#include \"Operation.h\"\n\n"
             "namespace tvr::operation {\n\n" + "\n".join(lines) + "\n\n}  // namespace tvr::operation\n")
@@ -97,9 +96,9 @@ def registry_source(catalogue):
     rows = catalogue.attributes
     ids = "\n".join(f"    {row.macro}," for row in rows)
     adds = "\n".join(
-        f"  registry.Add<{row.c_type}>({row.macro}, {literal(row.macro)}, "
-        f"{f'{PREFIX}_get_{row.name}' if row.readable else 'nullptr'}, "
-        f"{f'{PREFIX}_set_{row.name}' if row.writable else 'nullptr'});" for row in rows)
+        listing(f"  registry.Add<{row.c_type}>(",
+                [row.macro, literal(row.macro), f"{PREFIX}_get_{row.name}" if row.readable else "nullptr",
+                 f"{PREFIX}_set_{row.name}" if row.writable else "nullptr"], ");") for row in rows)
     return f"""{GENERATED}#include "Registry.h"
 
 #include <algorithm>
@@ -129,17 +128,17 @@ def exports_source(catalogue):
     for row in catalogue.attributes:
         if row.export is None:
             continue
-        getter = f"extern \"C\" ViStatus _VI_FUNC {PREFIX}_Get{row.export}"
-        get = f"return {PREFIX}_GetAttribute{row.c_type}(Vi, VI_NULL, {row.macro}"
-        if row.readable and row.type == "string":
-            lines.append(f"{getter}(ViSession Vi, ViInt32 BufferSize, ViChar Value[]) "
-                         f"{{\n  {get}, BufferSize, Value);\n}}")
-        elif row.readable:
-            lines.append(f"{getter}(ViSession Vi, {row.c_type}* Value) {{\n  {get}, Value);\n}}")
+        text = row.type == "string"
+        head = f"extern \"C\" ViStatus _VI_FUNC {PREFIX}_"
+        if row.readable:
+            value = "ViInt32 BufferSize, ViChar Value[]" if text else f"{row.c_type}* Value"
+            passed = "BufferSize, Value" if text else "Value"
+            lines.append(function_body(
+                f"{head}Get{row.export}(ViSession Vi, {value})",
+                f"return {PREFIX}_GetAttribute{row.c_type}(Vi, VI_NULL, {row.macro}, {passed});"))
         if row.writable:
-            lines.append(f"extern \"C\" ViStatus _VI_FUNC {PREFIX}_Set{row.export}"
-                         f"(ViSession Vi, {value_type(row)} Value) {{\n"
-                         f"  return tvr::SetAttribute<{row.c_type}>(Vi, nullptr, {row.macro}, Value);\n}}")
+            lines.append(function_body(f"{head}Set{row.export}(ViSession Vi, {value_type(row)} Value)",
+                                       f"return tvr::SetAttribute<{row.c_type}>(Vi, nullptr, {row.macro}, Value);"))
     return f"{GENERATED}#include \"{PREFIX}.h\"\n#include \"Tvr.h\"\n\n" + "\n\n".join(lines) + "\n"
 
 
@@ -162,14 +161,14 @@ def enums_source(catalogue):
             "words.\n#include \"enums.h\"\n\nnamespace maps {\n\n" + "\n\n".join(maps) + "\n\n}  // namespace maps\n")
 
 
-def errors_header(catalogue):
+def error_codes_header(catalogue):
     lines = [f"constexpr ViStatus k{camel(row.name)} = static_cast<ViStatus>(0x{row.code:08X});"
              for row in catalogue.errors]
     return (f"{GENERATED}#pragma once\n\n#include <visatype.h>\n\nnamespace tvr::error {{\n\n" + "\n".join(lines)
             + "\n\n}  // namespace tvr::error\n")
 
 
-def errors_source(catalogue):
+def error_table_source(catalogue):
     rows = "\n".join(f"    {{tvr::error::k{camel(row.name)}, {literal(row.text)}}}," for row in catalogue.errors)
     return f"""{GENERATED}#include "Errors.h"
 

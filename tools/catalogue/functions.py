@@ -124,7 +124,6 @@ def converted(row):
 
 
 def getter(row, catalogue):
-    unchanged = "unchanged, but for 0xBFFA0001, which is found after the reading"
     null = f"Value is null (the text names {PREFIX}_GetAttribute{row.c_type} and AttributeValue)"
     success, size = "VI_SUCCESS", []
     if row.type == "string":
@@ -135,11 +134,13 @@ def getter(row, catalogue):
         value = Parameter("Value", "ViChar[]", "Receives the text, terminated, cut to BufferSize. After a failure: "
                           f"what had arrived of it. Not touched, and may be null, when BufferSize is 0.")
     else:
+        unchanged = ("unchanged, but where it came behind the reading" if row.frame == "custom" else
+                     "unchanged, but for 0xBFFA0001, which is found after the reading")
         refused = f"{'0xFFFF' if row.type == 'boolean' else '-1'} with 0xBFFA0059, else " if converted(row) else ""
         choice = f" {values(row, catalogue)}." if row.type in ("boolean", "enum") else ""
         value = Parameter("Value", f"{row.c_type}*",
                           f"Receives the value.{quantity(row)}{choice} After a failure: {refused}{unchanged}.")
-    sent = {"forward": f"Reads {PREFIX}_ATTR_{row.target}.", "custom": row.reads}
+    sent = {"forward": f"Reads {PREFIX}_ATTR_{row.target}.", "custom": f"Read: {row.reads}"}
     return Function(
         name=f"{PREFIX}_Get{row.export}", brief=f"Reads {row.macro}: {clause(row.brief)}",
         parameters=[Parameter("Vi", "ViSession", HANDLE), *size, value],
@@ -151,7 +152,10 @@ def getter(row, catalogue):
 
 
 def setter(row, catalogue):
-    judge = "Range: the instrument's; the driver checks none." if row.type in ("real", "integer") else ""
+    judge = ""
+    if row.type in ("real", "integer"):
+        judge = "The driver checks no range." if row.frame == "custom" else (
+            "Range: the instrument's; the driver checks none.")
     choice = f"{values(row, catalogue)[0].upper()}{values(row, catalogue)[1:]}." if row.map or row.enum else ""
     if row.type == "boolean":
         choice = "VI_TRUE or VI_FALSE."
@@ -160,7 +164,7 @@ def setter(row, catalogue):
         doc = "The new text, terminated. It is sent as it stands; the driver checks and escapes nothing in it."
         if row.convert:
             doc = f"The new text, terminated. It passes through {row.convert} on its way out."
-    sent = {"forward": f"Writes {PREFIX}_ATTR_{row.target}.", "custom": row.writes}
+    sent = {"forward": f"Writes {PREFIX}_ATTR_{row.target}.", "custom": f"Write: {row.writes}"}
     return Function(
         name=f"{PREFIX}_Set{row.export}", brief=f"Writes {row.macro}: {clause(row.brief)}",
         parameters=[Parameter("Vi", "ViSession", HANDLE),

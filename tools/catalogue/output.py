@@ -41,22 +41,23 @@ def paragraphs(text):
     return [lines for lines in result if lines]
 
 
-def wrap(text, first="", rest="", width=WIDTH):
+def wrap(text, first="", rest="", width=WIDTH - len(" * ")):
     return textwrap.wrap(text, width, initial_indent=first, subsequent_indent=rest, break_long_words=False,
                          break_on_hyphens=False)
 
 
-def call(head, arguments, tail, width=WIDTH):
-    """`head(arguments)tail`, broken between arguments and aligned behind the parenthesis as clang-format does."""
-    lines = [head + "("]
-    for position, argument in enumerate(arguments):
-        last = position + 1 == len(arguments)
-        piece = argument + (")" + tail if last else ",")
-        blank = "" if lines[-1].endswith("(") else " "
-        if len(lines[-1]) + len(blank) + len(piece) > width and blank:
-            lines.append(" " * (len(head) + 1) + piece)
+def listing(head, items, tail):
+    """`head` with an open bracket, the items, `tail`: broken between items and aligned behind the bracket."""
+    lines = [head + items[0]]
+    for item in items[1:]:
+        if len(lines[-1]) + len(item) + len(", ") + len(tail) > WIDTH:
+            lines[-1] += ","
+            lines.append(" " * len(head) + item)
         else:
-            lines[-1] += blank + piece
-    if not arguments:
-        lines[-1] += ")" + tail
-    return "\n".join(lines)
+            lines[-1] += ", " + item
+    return "\n".join(lines) + tail
+
+
+def function_body(head, statement):
+    line = f"{head} {{ {statement} }}"
+    return line if len(line) <= WIDTH else f"{head} {{\n  {statement}\n}}"
