@@ -32,7 +32,8 @@ ViStatus KVTD481X2C_get_ALC_ENABLED(ViSession vi, ViConstString, ViBoolean* valu
   return status;
 }
 
-// Switching on leaves any source but the fixed one as it is. Which one was in use before switching off is not remembered.
+// Switching on leaves any source but the fixed one as it is. Which one was in use before switching off is not
+// remembered.
 ViStatus KVTD481X2C_set_ALC_ENABLED(ViSession vi, ViConstString, ViBoolean value) {
   tvr::CallFrame call(vi);
   if (!call.ok()) return call.status();

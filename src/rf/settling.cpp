@@ -1,5 +1,5 @@
-// The settle mark. The instrument is never asked whether it has settled: what there is, is one number that the setters of
-// output, frequency and level leave behind.
+// The settle mark. The instrument is never asked whether it has settled: what there is, is one number that the setters
+// of output, frequency and level leave behind.
 
 #include "KVTD481X2C.h"
 #include "TD481X2CDriverSession.h"

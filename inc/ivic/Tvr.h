@@ -1,0 +1,21 @@
+// The driver runtime in one include.
+#pragma once
+
+#include "Assertions.h"
+#include "AttributeCache.h"
+#include "CacheManager.h"
+#include "CallFrame.h"
+#include "DriverIdentity.h"
+#include "DriverSession.h"
+#include "EnumMap.h"
+#include "Errors.h"
+#include "Frames.h"
+#include "IoSession.h"
+#include "Operation.h"
+#include "Registry.h"
+#include "RepeatedCapability.h"
+#include "Rows.h"
+#include "ScopedIoTimeout.h"
+#include "Strings.h"
+#include "Ticks.h"
+#include "VisaSession.h"
