@@ -211,13 +211,13 @@ class Frames(Check):
 
     def test_the_target_is_real(self):
         self.refuses_with("tone.toml", 'target = "TONE_PITCH"', 'target = "TONE_LABEL"',
-                          "tone.toml: TONE_PITCH_F0: the target TONE_LABEL is not a real attribute of its own, read and "
-                          "written")
+                          "tone.toml: TONE_PITCH_F0: the target TONE_LABEL is not a real attribute of its own, read "
+                          "and written")
 
     def test_a_forward_row_does_not_lead_to_another(self):
         self.refuses_with("tone.toml", 'target = "TONE_PITCH"', 'target = "TONE_DEPTH"',
-                          "tone.toml: TONE_PITCH_F0: the target TONE_DEPTH is not a real attribute of its own, read and "
-                          "written")
+                          "tone.toml: TONE_PITCH_F0: the target TONE_DEPTH is not a real attribute of its own, read "
+                          "and written")
 
     def test_a_forward_row_is_real(self):
         self.refuses_with("tone.toml", 'type = "real"\nframe = "forward"', 'type = "integer"\nframe = "forward"',
@@ -301,6 +301,10 @@ class Enumerations(Check):
         self.refuses_with("words.toml", '{ name = "SHAPE_LIST", value = 2', '{ name = "SHAPE_NONE", value = 1',
                           "words.toml: SHAPE: SHAPE_NONE stands twice")
 
+    def test_a_value_name_is_a_c_identifier(self):
+        self.refuses_with("words.toml", '"SHAPE_LIST"', '"SHAPE-LIST"',
+                          "words.toml: SHAPE: the value name 'SHAPE-LIST' is no C identifier")
+
     def test_true_stands_before_false(self):
         self.refuses_with("words.toml", '"VI_TRUE", value = 1', '"VI_TRUE", value = 2',
                           "words.toml: BOOLEAN: the values of BOOLEAN are VI_TRUE, 1, and VI_FALSE, 0, in this order")
@@ -334,6 +338,10 @@ class Operations(Check):
         self.refuses_with("tone.toml", 'type = "ViReal64*"', 'type = "double*"',
                           "tone.toml: PlayTone: the type 'double*' of the argument Duration is not known")
 
+    def test_an_argument_name_is_a_c_identifier(self):
+        self.refuses_with("tone.toml", 'name = "Duration"', 'name = "Dura tion"',
+                          "tone.toml: PlayTone: the argument name 'Dura tion' is no C identifier")
+
     def test_an_argument_is_described(self):
         self.refuses_with("tone.toml", ', doc = "Name of the tone."', "", "tone.toml: PlayTone: argument 1: no 'doc'")
 
@@ -358,8 +366,8 @@ class Operations(Check):
 
     def test_a_failure_begins_with_its_code(self):
         self.refuses_with("tone.toml", "0xBFFA0010  Name", "0xBFFA0010 Name",
-                          "tone.toml: PlayTone: the failure '0xBFFA0010 Name is not known' is not a code of eight digits, "
-                          "two blanks and a text")
+                          "tone.toml: PlayTone: the failure '0xBFFA0010 Name is not known' is not a code of eight "
+                          "digits, two blanks and a text")
 
     def test_a_failure_is_an_error_of_the_catalogue(self):
         self.refuses_with("tone.toml", "0xBFFA0010  Name", "0xBFFA0011  Name",

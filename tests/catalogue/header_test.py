@@ -42,7 +42,7 @@ SETTER = """\
  *         a VISA status when the exchange fails
  *
  * Sends `:TONE:PITC <Value> HZ`.
- * Simulated: nothing is converted or sent; the value is stored.
+ * Simulated: nothing is sent; the value is stored.
  * @see KVTD481X2C_GetTonePitch, KVTD481X2C_ATTR_TONE_PITCH
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetTonePitch(ViSession Vi, ViReal64 Value);
@@ -121,6 +121,16 @@ class Header(ToyCatalogue):
 
     def test_an_operation_names_its_arguments_in_the_text_it_sends(self):
         self.assertIn(OPERATION, self.header)
+
+    def test_a_failure_of_the_row_takes_the_place_of_the_common_one(self):
+        self.append("codes.toml", '[error.STATUS]\ncode = 0xBFFA0001\ntext = "x"\n')
+        self.replace("tone.toml", '["0xBFFA0010  Name is not known"]', '["0xBFFA0001  never: nothing is asked"]')
+        play = self.product("header").split("Plays a tone")[1].split("*/")[0]
+        self.assertIn(" *         0xBFFA0001  never: nothing is asked\n", play)
+        self.assertEqual(1, play.count("0xBFFA0001"))
+
+    def test_an_output_on_whose_failure_the_row_is_silent_is_unchanged(self):
+        self.assertIn(" * @param Text  Receives the text. After a failure: unchanged.\n", self.header)
 
     def test_a_refused_boolean_is_the_sixteen_bits_of_minus_one(self):
         self.assertIn("VI_TRUE or VI_FALSE. After a failure: 0xFFFF with 0xBFFA0059", self.header)

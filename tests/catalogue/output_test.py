@@ -64,7 +64,8 @@ KVTD481X2C_explain
     def test_a_wrong_row_leaves_the_old_product_alone(self):
         before = self.product("header")
         self.replace("tone.toml", 'unit = "Hz"\n', "")
-        self.assertEqual((1, "tone.toml: TONE_PITCH: no 'unit'\n"), self.run_generator("header", self.folder / "header"))
+        self.assertEqual((1, "tone.toml: TONE_PITCH: no 'unit'\n"),
+                         self.run_generator("header", self.folder / "header"))
         self.assertEqual(before, (self.folder / "header").read_text())
 
     def test_the_command_ends_with_1_and_one_sentence_for_a_wrong_row(self):

@@ -20,7 +20,7 @@ It follows the \\<scale> of the #1 room.
 | Write | `:TONE:PITC %0.15lg HZ\\n` |
 | Behind a good write | `StampPitch` |
 | Simulated read | nothing is sent; the value last stored, before that 440.0 |
-| Simulated write | nothing is converted or sent; the value is stored |
+| Simulated write | nothing is sent; the value is stored |
 | Typed exports | `KVTD481X2C_GetTonePitch`, `KVTD481X2C_SetTonePitch` |
 """
 
@@ -67,8 +67,8 @@ class Reference(ToyCatalogue):
         self.assertIn(ATTRIBUTE, self.pages["tone.md"])
 
     def test_an_enumeration_is_linked_and_its_values_listed(self):
-        self.assertIn("| Values | [SHAPE](words.md#shape): `KVTD481X2C_VAL_SHAPE_SINE` (0), `KVTD481X2C_VAL_SHAPE_NONE` "
-                      "(1), `KVTD481X2C_VAL_SHAPE_LIST` (2) |\n", self.pages["tone.md"])
+        self.assertIn("| Values | [SHAPE](words.md#shape): `KVTD481X2C_VAL_SHAPE_SINE` (0), "
+                      "`KVTD481X2C_VAL_SHAPE_NONE` (1), `KVTD481X2C_VAL_SHAPE_LIST` (2) |\n", self.pages["tone.md"])
 
     def test_a_custom_attribute_tells_what_its_handlers_do(self):
         self.assertIn("| Read | Reads whether the tone is external. |\n| Write | Refuses EXTERNAL. |\n",
@@ -90,7 +90,8 @@ class Reference(ToyCatalogue):
                       self.pages["codes.md"])
 
     def test_the_index_leads_to_every_attribute_and_function(self):
-        self.assertIn("| [TONE_AUTO](tone.md#tone_auto) | 1150006 | `ViBoolean` | read only |\n", self.pages["index.md"])
+        self.assertIn("| [TONE_AUTO](tone.md#tone_auto) | 1150006 | `ViBoolean` | read only |\n",
+                      self.pages["index.md"])
         self.assertIn("| [KVTD481X2C_explain](tone.md#kvtd481x2c_explain) |\n", self.pages["index.md"])
         self.assertIn("| [Tone](tone.md) | The tone of the toy: two attributes of every frame. |\n",
                       self.pages["index.md"])
@@ -98,6 +99,10 @@ class Reference(ToyCatalogue):
     def test_a_bar_does_not_end_its_cell(self):
         self.replace("tone.toml", '"Refuses EXTERNAL."', '"Refuses a|b."')
         self.assertIn("| Write | Refuses a\\|b. |\n", self.product("reference")["tone.md"])
+
+    def test_the_lines_of_a_paragraph_are_joined(self):
+        self.replace("tone.toml", "attributes of every frame.", "attributes\nof every frame.")
+        self.assertIn("\nThe tone of the toy: two attributes of every frame.\n", self.product("reference")["tone.md"])
 
     def test_items_of_a_list_stay_together(self):
         self.assertIn("\n\n- the first half is sent\n- the second half is by hand\n\n", self.pages["tone.md"])

@@ -67,6 +67,11 @@ constexpr tvr::ForwardRow kTonePitchF0{KVTD481X2C_ATTR_TONE_PITCH_F0, "KVTD481X2
                  "ViStatus KVTD481X2C_get_TONE_SESSION(ViSession vi, ViConstString selector, ViSession* value);\n")
         self.has_not("handlers.h", "KVTD481X2C_set_TONE_SESSION")
 
+    def test_a_room_of_custom_rows_alone_has_a_file_without_rows(self):
+        self.append("codes.toml", '[attribute.CODE]\nid = 1050002\ntype = "integer"\nframe = "custom"\naccess = "R"\n'
+                                  'reads = "The last code."\nbrief = "Last code."\n')
+        self.assertNotIn("kCode", self.product("sources")["codes_rows.cpp"])
+
     def test_a_handler_is_one_call(self):
         self.has("tone_rows.cpp", """\
 ViStatus KVTD481X2C_set_TONE_LEVEL(ViSession vi, ViConstString, ViReal64 value) {

@@ -29,7 +29,8 @@ def get_handler(row, names=False):
 
 
 def set_handler(row, names=False):
-    return f"ViStatus {PREFIX}_set_{row.name}(ViSession vi, ViConstString{' selector' * names}, {value_type(row)} value)"
+    value = f"{value_type(row)} value"
+    return f"ViStatus {PREFIX}_set_{row.name}(ViSession vi, ViConstString{' selector' * names}, {value})"
 
 
 def handlers_header(catalogue):
@@ -74,7 +75,8 @@ def rows_source(room):
     constants, handlers = [], []
     for row in rows:
         kind, fields = constant(row)
-        constants.append(listing(f"constexpr tvr::{kind} {row.constant}{{", [row.macro, literal(row.macro), *fields], "};"))
+        constants.append(listing(f"constexpr tvr::{kind} {row.constant}{{",
+                                 [row.macro, literal(row.macro), *fields], "};"))
         value = "size, value" if row.type == "string" else "value"
         if row.readable:
             handlers.append(function_body(get_handler(row), f"return tvr::GetValue({row.constant}, vi, {value});"))

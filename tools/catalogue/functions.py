@@ -104,7 +104,7 @@ def simulated_read(row, catalogue):
 
 def simulated_write(row):
     return {
-        "cached": "nothing is converted or sent; the value is stored",
+        "cached": f"nothing is {'converted or ' if converted(row) else ''}sent; the value is stored",
         "simulated": "nothing is sent and nothing is stored",
         "plain": f"the exchange is tried all the same and ends in {NO_SESSION}",
         "forward": f"as {PREFIX}_ATTR_{row.target}",
@@ -185,10 +185,11 @@ def operation(row):
     told = {failure[:10] for failure in row.failures}
     statuses = [status for status in common if status[:10] not in told] + row.failures
     statuses += [VISA_STATUS] if talks and not any("VISA" in failure for failure in row.failures) else []
-    arguments = [Parameter(argument.name, argument.type, argument_doc(argument)) for argument in row.args]
+    arguments = [Parameter(argument.name, argument.type, argument_doc(argument, row, talks)) for argument in row.args]
     inputs = [argument.name for argument in row.args
               if not argument.type.endswith(("*", "]")) and not argument.name.endswith("BufferSize")]
-    steps = [f"Sends {wire(text, *inputs)}." for text in [row.write, *row.sends] if text]
+    sent = [wire(text, *inputs) for text in [row.write, *row.sends] if text]
+    steps = [f"Sends {', '.join(sent)}."] if sent else []
     steps += [f"Queries {wire(row.query, *inputs)}."] if row.query else []
     if row.sets:
         names = [f"{PREFIX}_ATTR_{name}" for name in row.sets]
@@ -201,9 +202,9 @@ def operation(row):
         see=[f"{PREFIX}_ATTR_{name}" for name in row.sets])
 
 
-def argument_doc(argument):
-    """Every output says what it holds after a failure; a row that does not say it means the plain thing."""
+def argument_doc(argument, row, talks):
+    """Every output says what it holds after a failure; where the row is silent on failures, it is the plain thing."""
     output = argument.type.endswith(("*", "]")) and not argument.type.startswith("const")
-    if not output or "fail" in argument.doc:
+    if not output or "failure" in argument.doc + row.detail:
         return argument.doc
-    return f"{argument.doc} After a failure: unchanged, or what had arrived."
+    return f"{argument.doc} After a failure: unchanged{', or what had arrived' if talks else ''}."

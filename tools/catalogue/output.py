@@ -49,8 +49,9 @@ def wrap(text, first="", rest="", width=WIDTH - len(" * ")):
 def listing(head, items, tail):
     """`head` with an open bracket, the items, `tail`: broken between items and aligned behind the bracket."""
     lines = [head + items[0]]
-    for item in items[1:]:
-        if len(lines[-1]) + len(item) + len(", ") + len(tail) > WIDTH:
+    for position, item in enumerate(items[1:], 2):
+        behind = tail if position == len(items) else ","
+        if len(lines[-1]) + len(", ") + len(item) + len(behind) > WIDTH:
             lines[-1] += ","
             lines.append(" " * len(head) + item)
         else:
