@@ -33,6 +33,466 @@ extern "C" {
 #endif
 
 /**
+ * @defgroup am Amplitude modulation
+ *
+ * Amplitude modulation twice over: as the instrument has it, with a depth in percent and one in decibels, each for the
+ * internal and the external drive, and as the class has it, with a source, a scaling and a depth.
+ *
+ * The class attributes keep nothing of their own. They read KVTD481X2C_ATTR_AM_SOURCE_EX and KVTD481X2C_ATTR_AM_MODE at
+ * the moment of the call and pass the value on to the attribute that these two select, also in a simulated session.
+ * They have no typed functions: use the Configure functions or the generic access.
+ * @{
+ */
+
+/** The instrument's error number for the amplitude modulation. ViInt32, read. */
+#define KVTD481X2C_ATTR_AM_ERROR 1150054
+
+/** Depth that the nominal voltage at the external input gives in the logarithmic mode. ViReal64, dB, read and write. */
+#define KVTD481X2C_ATTR_AM_EXTERNAL_SENSITIVITY_DB 1150055
+
+/** Depth that the nominal voltage at the external input gives in the linear mode. ViReal64, %, read and write. */
+#define KVTD481X2C_ATTR_AM_EXTERNAL_SENSITIVITY_PERCENT 1150056
+
+/** Depth with the internal source in the logarithmic mode. ViReal64, dB, read and write. */
+#define KVTD481X2C_ATTR_AM_INTERNAL_DEPTH_DB 1150057
+
+/** Depth with the internal source in the linear mode. ViReal64, %, read and write. */
+#define KVTD481X2C_ATTR_AM_INTERNAL_DEPTH_PERCENT 1150058
+
+/** Frequency of the internal source of the amplitude modulation. ViReal64, Hz, read and write. */
+#define KVTD481X2C_ATTR_AM_INTERNAL_FREQUENCY 1150059
+
+/**
+ * Waveform of the internal source of the amplitude modulation. ViInt32, enumeration INTERNAL_WAVEFORM, read and write.
+ */
+#define KVTD481X2C_ATTR_AM_INTERNAL_WAVEFORM 1150060
+
+/**
+ * Whether the depth is linear, in percent, or logarithmic, in decibels. ViInt32, enumeration AM_MODE, read and write.
+ */
+#define KVTD481X2C_ATTR_AM_MODE 1150061
+
+/**
+ * What drives the amplitude modulation: the internal source or the external input. ViInt32, enumeration
+ * MODULATION_SOURCE, read and write.
+ */
+#define KVTD481X2C_ATTR_AM_SOURCE_EX 1150062
+
+/** Whether the amplitude modulation is on. ViBoolean, read and write. */
+#define KVTD481X2C_ATTR_AM_ENABLED 1250011
+
+/**
+ * What drives the amplitude modulation, by its name in the class: "Internal" or "External". ViString, read and write.
+ */
+#define KVTD481X2C_ATTR_AM_SOURCE 1250012
+
+/** Whether KVTD481X2C_ATTR_AM_DEPTH is linear or logarithmic. ViInt32, enumeration AM_SCALING, read and write. */
+#define KVTD481X2C_ATTR_AM_SCALING 1250013
+
+/**
+ * Coupling of the external input of the amplitude modulation, which on this instrument is always DC. ViInt32,
+ * enumeration AM_EXTERNAL_COUPLING, read and write.
+ */
+#define KVTD481X2C_ATTR_AM_EXTERNAL_COUPLING 1250014
+
+/** Voltage at the external input at which the amplitude modulation reaches the depth that is set. ViReal64, V, read. */
+#define KVTD481X2C_ATTR_AM_NOMINAL_VOLTAGE 1250015
+
+/** Depth of the amplitude modulation, for the source and the scaling in force. ViReal64, % or dB, read and write. */
+#define KVTD481X2C_ATTR_AM_DEPTH 1250016
+
+/**
+ * Sets the source, the scaling and the depth of the amplitude modulation.
+ *
+ * The depth goes to the attribute that the source and the scaling just set select. A failure leaves the steps before it
+ * in force.
+ *
+ * @param Vi       Handle from KVTD481X2C_InitWithOptions.
+ * @param Source   "Internal" or "External", in any case. Not null.
+ * @param Scaling  A value of KVTD481X2C_ATTR_AM_SCALING.
+ * @param Depth    The depth: in percent if Scaling is linear, in dB if logarithmic.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         0xBFFA0013  Source or Scaling is no value of its attribute
+ *         0xBFFA0059  the instrument's source or mode is no defined value
+ *         a VISA status when the exchange fails
+ *
+ * Sets KVTD481X2C_ATTR_AM_SOURCE, KVTD481X2C_ATTR_AM_SCALING, KVTD481X2C_ATTR_AM_DEPTH, in this order, up to the first
+ * failure.
+ * Simulated: stores the values in the attributes that they are passed on to; nothing is sent.
+ * @see KVTD481X2C_ATTR_AM_SOURCE, KVTD481X2C_ATTR_AM_SCALING, KVTD481X2C_ATTR_AM_DEPTH
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ConfigureAM(ViSession Vi, ViConstString Source, ViInt32 Scaling,
+                                                        ViReal64 Depth);
+
+/**
+ * Switches the amplitude modulation on or off.
+ *
+ * @param Vi       Handle from KVTD481X2C_InitWithOptions.
+ * @param Enabled  VI_TRUE switches it on, VI_FALSE off.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         0xBFFA0000  Enabled is neither VI_TRUE nor VI_FALSE; nothing is sent
+ *         a VISA status when the exchange fails
+ *
+ * Sets KVTD481X2C_ATTR_AM_ENABLED.
+ * Simulated: fails with VISA's status: the attribute makes its VISA call.
+ * @see KVTD481X2C_ATTR_AM_ENABLED
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ConfigureAMEnabled(ViSession Vi, ViBoolean Enabled);
+
+/**
+ * Accepts DC as the coupling of the external input; the instrument has no other.
+ *
+ * Nothing is sent.
+ *
+ * @param Vi        Handle from KVTD481X2C_InitWithOptions.
+ * @param Coupling  KVTD481X2C_VAL_AM_EXTERNAL_COUPLING_DC.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         0xBFFA0013  Coupling is any other value, KVTD481X2C_VAL_AM_EXTERNAL_COUPLING_AC included
+ *         a VISA status when the exchange fails
+ *
+ * Sets KVTD481X2C_ATTR_AM_EXTERNAL_COUPLING.
+ * Simulated: the same.
+ * @see KVTD481X2C_ATTR_AM_EXTERNAL_COUPLING
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ConfigureAMExternalCoupling(ViSession Vi, ViInt32 Coupling);
+
+/**
+ * Reads KVTD481X2C_ATTR_AM_ERROR: the instrument's error number for the amplitude modulation.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. After a failure: unchanged, but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:AM:ERR?`.
+ * Simulated: nothing is sent; 0.
+ * @see KVTD481X2C_ATTR_AM_ERROR
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetAMError(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_AM_EXTERNAL_SENSITIVITY_PERCENT: depth that the nominal voltage at the external input gives in
+ * the linear mode.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. In %. After a failure: unchanged, but for 0xBFFA0001, which is found after the
+ *               reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViReal64 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:AM:SENS?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.0.
+ * @see KVTD481X2C_SetAMExternalSensitivityPercent, KVTD481X2C_ATTR_AM_EXTERNAL_SENSITIVITY_PERCENT
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetAMExternalSensitivityPercent(ViSession Vi, ViReal64* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_AM_EXTERNAL_SENSITIVITY_DB: depth that the nominal voltage at the external input gives in the
+ * logarithmic mode.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. In dB. After a failure: unchanged, but for 0xBFFA0001, which is found after the
+ *               reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViReal64 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:AM:LOGS?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.0.
+ * @see KVTD481X2C_SetAMExternalSensitivitydB, KVTD481X2C_ATTR_AM_EXTERNAL_SENSITIVITY_DB
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetAMExternalSensitivitydB(ViSession Vi, ViReal64* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_AM_INTERNAL_DEPTH_PERCENT: depth with the internal source in the linear mode.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. In %. After a failure: unchanged, but for 0xBFFA0001, which is found after the
+ *               reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViReal64 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:AM:DEPT?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.0.
+ * @see KVTD481X2C_SetAMInternalDepthPercent, KVTD481X2C_ATTR_AM_INTERNAL_DEPTH_PERCENT
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetAMInternalDepthPercent(ViSession Vi, ViReal64* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_AM_INTERNAL_DEPTH_DB: depth with the internal source in the logarithmic mode.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. In dB. After a failure: unchanged, but for 0xBFFA0001, which is found after the
+ *               reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViReal64 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:AM:LOGD?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.0.
+ * @see KVTD481X2C_SetAMInternalDepthdB, KVTD481X2C_ATTR_AM_INTERNAL_DEPTH_DB
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetAMInternalDepthdB(ViSession Vi, ViReal64* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_AM_INTERNAL_FREQUENCY: frequency of the internal source of the amplitude modulation.
+ *
+ * It is sent with its unit; the internal frequencies of the frequency and phase modulation are sent bare.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. In Hz. After a failure: unchanged, but for 0xBFFA0001, which is found after the
+ *               reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViReal64 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:AM:FREQ?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.0.
+ * @see KVTD481X2C_SetAMInternalFrequency, KVTD481X2C_ATTR_AM_INTERNAL_FREQUENCY
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetAMInternalFrequency(ViSession Vi, ViReal64* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_AM_INTERNAL_WAVEFORM: waveform of the internal source of the amplitude modulation.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. KVTD481X2C_VAL_INTERNAL_WAVEFORM_SINE, KVTD481X2C_VAL_INTERNAL_WAVEFORM_GUASSIAN,
+ *               KVTD481X2C_VAL_INTERNAL_WAVEFORM_NEGATIVE_RAMP, KVTD481X2C_VAL_INTERNAL_WAVEFORM_POSITIVE_RAMP,
+ *               KVTD481X2C_VAL_INTERNAL_WAVEFORM_SQUARE, KVTD481X2C_VAL_INTERNAL_WAVEFORM_TRIANGLE or
+ *               KVTD481X2C_VAL_INTERNAL_WAVEFORM_UNIFORM_NOISE. After a failure: -1 with 0xBFFA0059, else unchanged,
+ *               but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0059  the answer is no word of a defined value
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:AM:WAVE?`.
+ * Simulated: nothing is sent; the value last stored, before that KVTD481X2C_VAL_INTERNAL_WAVEFORM_SINE.
+ * @see KVTD481X2C_SetAMInternalWaveform, KVTD481X2C_ATTR_AM_INTERNAL_WAVEFORM
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetAMInternalWaveform(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_AM_MODE: whether the depth is linear, in percent, or logarithmic, in decibels.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. KVTD481X2C_VAL_AM_MODE_LINEAR or KVTD481X2C_VAL_AM_MODE_LOGARITHMIC. After a
+ *               failure: -1 with 0xBFFA0059, else unchanged, but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0059  the answer is no word of a defined value
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:AM:TYPE?`.
+ * Simulated: nothing is sent; the value last stored, before that KVTD481X2C_VAL_AM_MODE_LINEAR.
+ * @see KVTD481X2C_SetAMMode, KVTD481X2C_ATTR_AM_MODE
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetAMMode(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_AM_SOURCE_EX: what drives the amplitude modulation: the internal source or the external input.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. KVTD481X2C_VAL_MODULATION_SOURCE_INTERNAL or
+ *               KVTD481X2C_VAL_MODULATION_SOURCE_EXTERNAL. After a failure: -1 with 0xBFFA0059, else unchanged, but for
+ *               0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0059  the answer is no word of a defined value
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:AM:SOUR?`.
+ * Simulated: nothing is sent; the value last stored, before that KVTD481X2C_VAL_MODULATION_SOURCE_INTERNAL.
+ * @see KVTD481X2C_SetAMSourceEx, KVTD481X2C_ATTR_AM_SOURCE_EX
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetAMSourceEx(ViSession Vi, ViInt32* Value);
+
+/**
+ * Measures the depth of the amplitude modulation.
+ *
+ * The source, the mode and KVTD481X2C_ATTR_AM_ENABLED are not looked at, and the result is not remembered.
+ *
+ * @param Vi   Handle from KVTD481X2C_InitWithOptions.
+ * @param Val  The depth, in the instrument's terms. After a failure: unchanged, or what had arrived.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Val is null
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:MEAS:AM:DEPT?`.
+ * Simulated: returns 0 and leaves Val as it was; nothing is sent.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_MeasureAMDepth(ViSession Vi, ViReal64* Val);
+
+/**
+ * Writes KVTD481X2C_ATTR_AM_EXTERNAL_SENSITIVITY_PERCENT: depth that the nominal voltage at the external input gives in
+ * the linear mode.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. In %. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:AM:SENS <Value>`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetAMExternalSensitivityPercent, KVTD481X2C_ATTR_AM_EXTERNAL_SENSITIVITY_PERCENT
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetAMExternalSensitivityPercent(ViSession Vi, ViReal64 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_AM_EXTERNAL_SENSITIVITY_DB: depth that the nominal voltage at the external input gives in the
+ * logarithmic mode.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. In dB. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:AM:LOGS <Value>`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetAMExternalSensitivitydB, KVTD481X2C_ATTR_AM_EXTERNAL_SENSITIVITY_DB
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetAMExternalSensitivitydB(ViSession Vi, ViReal64 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_AM_INTERNAL_DEPTH_PERCENT: depth with the internal source in the linear mode.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. In %. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:AM:DEPT <Value>`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetAMInternalDepthPercent, KVTD481X2C_ATTR_AM_INTERNAL_DEPTH_PERCENT
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetAMInternalDepthPercent(ViSession Vi, ViReal64 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_AM_INTERNAL_DEPTH_DB: depth with the internal source in the logarithmic mode.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. In dB. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:AM:LOGD <Value>`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetAMInternalDepthdB, KVTD481X2C_ATTR_AM_INTERNAL_DEPTH_DB
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetAMInternalDepthdB(ViSession Vi, ViReal64 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_AM_INTERNAL_FREQUENCY: frequency of the internal source of the amplitude modulation.
+ *
+ * It is sent with its unit; the internal frequencies of the frequency and phase modulation are sent bare.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. In Hz. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:AM:FREQ <Value> HZ`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetAMInternalFrequency, KVTD481X2C_ATTR_AM_INTERNAL_FREQUENCY
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetAMInternalFrequency(ViSession Vi, ViReal64 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_AM_INTERNAL_WAVEFORM: waveform of the internal source of the amplitude modulation.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. KVTD481X2C_VAL_INTERNAL_WAVEFORM_SINE, KVTD481X2C_VAL_INTERNAL_WAVEFORM_GUASSIAN,
+ *               KVTD481X2C_VAL_INTERNAL_WAVEFORM_NEGATIVE_RAMP, KVTD481X2C_VAL_INTERNAL_WAVEFORM_POSITIVE_RAMP,
+ *               KVTD481X2C_VAL_INTERNAL_WAVEFORM_SQUARE, KVTD481X2C_VAL_INTERNAL_WAVEFORM_TRIANGLE or
+ *               KVTD481X2C_VAL_INTERNAL_WAVEFORM_UNIFORM_NOISE.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0000  Value is no defined value, or one without a word; nothing is sent
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:AM:WAVE <Value>`.
+ * Simulated: nothing is converted or sent; the value is stored.
+ * @see KVTD481X2C_GetAMInternalWaveform, KVTD481X2C_ATTR_AM_INTERNAL_WAVEFORM
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetAMInternalWaveform(ViSession Vi, ViInt32 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_AM_MODE: whether the depth is linear, in percent, or logarithmic, in decibels.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. KVTD481X2C_VAL_AM_MODE_LINEAR or KVTD481X2C_VAL_AM_MODE_LOGARITHMIC.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0000  Value is no defined value, or one without a word; nothing is sent
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:AM:TYPE <Value>`.
+ * Simulated: nothing is converted or sent; the value is stored.
+ * @see KVTD481X2C_GetAMMode, KVTD481X2C_ATTR_AM_MODE
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetAMMode(ViSession Vi, ViInt32 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_AM_SOURCE_EX: what drives the amplitude modulation: the internal source or the external input.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. KVTD481X2C_VAL_MODULATION_SOURCE_INTERNAL or KVTD481X2C_VAL_MODULATION_SOURCE_EXTERNAL.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0000  Value is no defined value, or one without a word; nothing is sent
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:AM:SOUR <Value>`.
+ * Simulated: nothing is converted or sent; the value is stored.
+ * @see KVTD481X2C_GetAMSourceEx, KVTD481X2C_ATTR_AM_SOURCE_EX
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetAMSourceEx(ViSession Vi, ViInt32 Value);
+
+/** @} */
+
+/**
  * @defgroup attribute_access Attribute access
  *
  * Ten functions reach every attribute by its id. The typed functions on the other pages, such as
@@ -51,7 +511,7 @@ extern "C" {
  * @param Vi                Handle from KVTD481X2C_InitWithOptions.
  * @param RepCapIdentifier  Accepted and not looked at; may be null.
  * @param AttributeID       The attribute, KVTD481X2C_ATTR_...
- * @param AttributeValue    The value. After a failure: unchanged, or what had arrived.
+ * @param AttributeValue    The value. After a failure: unchanged.
  * @return VI_SUCCESS or a negative status:
  *         0xBFFA1190  Vi is not an open handle (no text is recorded)
  *         0xBFFA0058  AttributeValue is null
@@ -70,7 +530,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetAttributeViBoolean(ViSession Vi, 
  * @param Vi                Handle from KVTD481X2C_InitWithOptions.
  * @param RepCapIdentifier  Accepted and not looked at; may be null.
  * @param AttributeID       The attribute, KVTD481X2C_ATTR_...
- * @param AttributeValue    The value. After a failure: unchanged, or what had arrived.
+ * @param AttributeValue    The value. After a failure: unchanged.
  * @return VI_SUCCESS or a negative status:
  *         0xBFFA1190  Vi is not an open handle (no text is recorded)
  *         0xBFFA0058  AttributeValue is null
@@ -89,7 +549,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetAttributeViInt32(ViSession Vi, Vi
  * @param Vi                Handle from KVTD481X2C_InitWithOptions.
  * @param RepCapIdentifier  Accepted and not looked at; may be null.
  * @param AttributeID       The attribute, KVTD481X2C_ATTR_...
- * @param AttributeValue    The value. After a failure: unchanged, or what had arrived.
+ * @param AttributeValue    The value. After a failure: unchanged.
  * @return VI_SUCCESS or a negative status:
  *         0xBFFA1190  Vi is not an open handle (no text is recorded)
  *         0xBFFA0058  AttributeValue is null
@@ -108,7 +568,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetAttributeViReal64(ViSession Vi, V
  * @param Vi                Handle from KVTD481X2C_InitWithOptions.
  * @param RepCapIdentifier  Accepted and not looked at; may be null.
  * @param AttributeID       The attribute, KVTD481X2C_ATTR_...
- * @param AttributeValue    The value. After a failure: unchanged, or what had arrived.
+ * @param AttributeValue    The value. After a failure: unchanged.
  * @return VI_SUCCESS or a negative status:
  *         0xBFFA1190  Vi is not an open handle (no text is recorded)
  *         0xBFFA0058  AttributeValue is null
@@ -131,8 +591,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetAttributeViSession(ViSession Vi, 
  * @param RepCapIdentifier          Accepted and not looked at; may be null.
  * @param AttributeID               The attribute, KVTD481X2C_ATTR_...
  * @param AttributeValueBufferSize  Size of AttributeValue, terminator included.
- * @param AttributeValue            The text. May be null if AttributeValueBufferSize is 0. After a failure: unchanged,
- *                                  or what had arrived.
+ * @param AttributeValue            The text. May be null if AttributeValueBufferSize is 0. After a failure: unchanged.
  * @return VI_SUCCESS or a negative status:
  *         0xBFFA1190  Vi is not an open handle (no text is recorded)
  *         0xBFFA000C  the attribute id is not known
@@ -310,7 +769,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetIOTimeout(ViSession Vi, ViInt32 V
  *
  * @param Vi           Handle from KVTD481X2C_InitWithOptions.
  * @param Count        Size of Buffer in bytes; its low 32 bits count.
- * @param Buffer       The bytes read, without a terminator. Not null. After a failure: unchanged, or what had arrived.
+ * @param Buffer       The bytes read, without a terminator. Not null. After a failure: unchanged.
  * @param ReturnCount  Number of bytes in Buffer, also after a failure. May be null.
  * @return VI_SUCCESS or a negative status:
  *         0xBFFA1190  Vi is not an open handle (no text is recorded)
@@ -1020,9 +1479,9 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ClearError(ViSession Vi);
  * copies the whole text, and a size too small cuts the text and returns the size needed.
  *
  * @param Vi           Handle from KVTD481X2C_InitWithOptions.
- * @param Code         The recorded status. After a failure: unchanged, or what had arrived.
+ * @param Code         The recorded status. After a failure: unchanged.
  * @param BufferSize   Size of Description in characters, terminator included.
- * @param Description  The recorded text, at most 1023 characters. After a failure: unchanged, or what had arrived.
+ * @param Description  The recorded text, at most 1023 characters. After a failure: unchanged.
  * @return VI_SUCCESS or a negative status:
  *         0xBFFA1190  Vi is not an open handle (no text is recorded)
  *
@@ -1039,7 +1498,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetError(ViSession Vi, ViStatus* Cod
  *
  * @param Vi            Handle from KVTD481X2C_InitWithOptions.
  * @param ErrorCode     The status to explain.
- * @param ErrorMessage  The text. A buffer of 256 characters. After a failure: unchanged, or what had arrived.
+ * @param ErrorMessage  The text. A buffer of 256 characters. After a failure: unchanged.
  * @return VI_SUCCESS or a negative status:
  *         0xBFFA1190  Vi is not an open handle (no text is recorded)
  *         0xBFFA0058  ErrorMessage is null
@@ -1057,10 +1516,8 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_error_message(ViSession Vi, ViStatus
  * outputs are as they were. A code that is not a number leaves the call as the C++ exception of the conversion.
  *
  * @param Vi            Handle from KVTD481X2C_InitWithOptions.
- * @param ErrorCode     The instrument's error number; 0 when the queue is empty. After a failure: unchanged, or what
- *                      had arrived.
- * @param ErrorMessage  The instrument's text. A buffer of 256 characters. After a failure: unchanged, or what had
- *                      arrived.
+ * @param ErrorCode     The instrument's error number; 0 when the queue is empty.
+ * @param ErrorMessage  The instrument's text. A buffer of 256 characters.
  * @return VI_SUCCESS or a negative status:
  *         0xBFFA1190  Vi is not an open handle (no text is recorded)
  *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
@@ -1072,6 +1529,809 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_error_message(ViSession Vi, ViStatus
  * Simulated: gives the code 0 and "No error." and sends nothing.
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_error_query(ViSession Vi, ViInt32* ErrorCode, ViChar ErrorMessage[256]);
+
+/** @} */
+
+/**
+ * @defgroup fm_pm Frequency and phase modulation
+ *
+ * Two twins of the amplitude modulation. They have no scaling, so that the deviation of the class goes by the source
+ * alone: with the internal source it is the instrument's deviation, with the external one its sensitivity, and nothing
+ * is converted. The frequency modulation has a locked and an unlocked mode and a high-pass filter besides; the mode of
+ * the phase modulation is its bandwidth.
+ *
+ * The class attributes keep nothing of their own and answer in a simulated session as the attributes behind them do.
+ * They have no typed functions: use the Configure functions or the generic access. Nothing stops a caller from
+ * switching on both modulations; what the instrument cannot combine, it refuses itself.
+ * @{
+ */
+
+/** The instrument's error number for the frequency modulation. ViInt32, read. */
+#define KVTD481X2C_ATTR_FM_ERROR 1150064
+
+/** Frequency deviation that the nominal voltage at the external input gives. ViReal64, Hz, read and write. */
+#define KVTD481X2C_ATTR_FM_EXTERNAL_SENSITIVITY 1150067
+
+/** Frequency deviation with the internal source. ViReal64, Hz, read and write. */
+#define KVTD481X2C_ATTR_FM_INTERNAL_DEVIATION 1150068
+
+/** Frequency of the internal source of the frequency modulation. ViReal64, Hz, read and write. */
+#define KVTD481X2C_ATTR_FM_INTERNAL_FREQUENCY 1150069
+
+/**
+ * Waveform of the internal source of the frequency modulation. ViInt32, enumeration INTERNAL_WAVEFORM, read and write.
+ */
+#define KVTD481X2C_ATTR_FM_INTERNAL_WAVEFORM 1150070
+
+/** Whether the carrier stays locked while its frequency is modulated. ViInt32, enumeration FM_MODE, read and write. */
+#define KVTD481X2C_ATTR_FM_MODE 1150071
+
+/**
+ * What drives the frequency modulation: the internal source or the external input. ViInt32, enumeration
+ * MODULATION_SOURCE, read and write.
+ */
+#define KVTD481X2C_ATTR_FM_SOURCE_EX 1150072
+
+/** The instrument's error number for the phase modulation. ViInt32, read. */
+#define KVTD481X2C_ATTR_PM_ERROR 1150074
+
+/** Phase deviation that the nominal voltage at the external input gives. ViReal64, rad, read and write. */
+#define KVTD481X2C_ATTR_PM_EXTERNAL_SENSITIVITY 1150077
+
+/** Phase deviation with the internal source. ViReal64, rad, read and write. */
+#define KVTD481X2C_ATTR_PM_INTERNAL_DEVIATION 1150078
+
+/** Frequency of the internal source of the phase modulation. ViReal64, Hz, read and write. */
+#define KVTD481X2C_ATTR_PM_INTERNAL_FREQUENCY 1150079
+
+/** Bandwidth of the phase modulation: narrow or wide. ViInt32, enumeration PM_MODE, read and write. */
+#define KVTD481X2C_ATTR_PM_MODE 1150081
+
+/**
+ * What drives the phase modulation: the internal source or the external input. ViInt32, enumeration MODULATION_SOURCE,
+ * read and write.
+ */
+#define KVTD481X2C_ATTR_PM_SOURCE_EX 1150082
+
+/** Waveform of the internal source of the phase modulation. ViInt32, enumeration INTERNAL_WAVEFORM, read and write. */
+#define KVTD481X2C_ATTR_PM_INTERNAL_WAVEFORM 1150083
+
+/**
+ * High-pass filter of the frequency modulation, or none (DC). ViInt32, enumeration FM_HIGH_PASS_FILTER, read and write.
+ */
+#define KVTD481X2C_ATTR_FM_HIGH_PASS_FILTER 1150181
+
+/** Whether the frequency modulation is on. ViBoolean, read and write. */
+#define KVTD481X2C_ATTR_FM_ENABLED 1250021
+
+/**
+ * What drives the frequency modulation, by its name in the class: "Internal" or "External". ViString, read and write.
+ */
+#define KVTD481X2C_ATTR_FM_SOURCE 1250022
+
+/**
+ * Coupling of the external input of the frequency modulation, which on this instrument is always DC. ViInt32,
+ * enumeration FM_EXTERNAL_COUPLING, read and write.
+ */
+#define KVTD481X2C_ATTR_FM_EXTERNAL_COUPLING 1250023
+
+/**
+ * Voltage at the external input at which the frequency modulation reaches the deviation that is set. ViReal64, V, read.
+ */
+#define KVTD481X2C_ATTR_FM_NOMINAL_VOLTAGE 1250024
+
+/** Frequency deviation, for the source in force. ViReal64, Hz, read and write. */
+#define KVTD481X2C_ATTR_FM_DEVIATION 1250025
+
+/** Whether the phase modulation is on. ViBoolean, read and write. */
+#define KVTD481X2C_ATTR_PM_ENABLED 1250031
+
+/** What drives the phase modulation, by its name in the class: "Internal" or "External". ViString, read and write. */
+#define KVTD481X2C_ATTR_PM_SOURCE 1250032
+
+/**
+ * Coupling of the external input of the phase modulation, which on this instrument is always DC. ViInt32, enumeration
+ * PM_EXTERNAL_COUPLING, read and write.
+ */
+#define KVTD481X2C_ATTR_PM_EXTERNAL_COUPLING 1250033
+
+/** Voltage at the external input at which the phase modulation reaches the deviation that is set. ViReal64, V, read. */
+#define KVTD481X2C_ATTR_PM_NOMINAL_VOLTAGE 1250034
+
+/** Phase deviation, for the source in force. ViReal64, rad, read and write. */
+#define KVTD481X2C_ATTR_PM_DEVIATION 1250035
+
+/** Number of sources that the analog modulations have. ViInt32, read. */
+#define KVTD481X2C_ATTR_ANALOG_MODULATION_SOURCE_COUNT 1250041
+
+/**
+ * Sets the source and the deviation of the frequency modulation.
+ *
+ * The deviation goes to the attribute that the source just set selects. A failure leaves the step before it in force.
+ *
+ * @param Vi         Handle from KVTD481X2C_InitWithOptions.
+ * @param Source     "Internal" or "External", in any case. Not null.
+ * @param Deviation  The deviation in hertz.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         0xBFFA0013  Source is neither Internal nor External; nothing is sent
+ *         0xBFFA0059  the instrument's source is no defined value
+ *         a VISA status when the exchange fails
+ *
+ * Sets KVTD481X2C_ATTR_FM_SOURCE, KVTD481X2C_ATTR_FM_DEVIATION, in this order, up to the first failure.
+ * Simulated: stores the values in the attributes that they are passed on to; nothing is sent.
+ * @see KVTD481X2C_ATTR_FM_SOURCE, KVTD481X2C_ATTR_FM_DEVIATION
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ConfigureFM(ViSession Vi, ViConstString Source, ViReal64 Deviation);
+
+/**
+ * Switches the frequency modulation on or off.
+ *
+ * @param Vi       Handle from KVTD481X2C_InitWithOptions.
+ * @param Enabled  VI_TRUE switches it on, VI_FALSE off.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         0xBFFA0000  Enabled is neither VI_TRUE nor VI_FALSE; nothing is sent
+ *         a VISA status when the exchange fails
+ *
+ * Sets KVTD481X2C_ATTR_FM_ENABLED.
+ * Simulated: fails with VISA's status: the attribute makes its VISA call.
+ * @see KVTD481X2C_ATTR_FM_ENABLED
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ConfigureFMEnabled(ViSession Vi, ViBoolean Enabled);
+
+/**
+ * Accepts DC as the coupling of the external input; the instrument has no other.
+ *
+ * Nothing is sent.
+ *
+ * @param Vi        Handle from KVTD481X2C_InitWithOptions.
+ * @param Coupling  KVTD481X2C_VAL_FM_EXTERNAL_COUPLING_DC.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         0xBFFA0013  Coupling is any other value, KVTD481X2C_VAL_FM_EXTERNAL_COUPLING_AC included
+ *         a VISA status when the exchange fails
+ *
+ * Sets KVTD481X2C_ATTR_FM_EXTERNAL_COUPLING.
+ * Simulated: the same.
+ * @see KVTD481X2C_ATTR_FM_EXTERNAL_COUPLING
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ConfigureFMExternalCoupling(ViSession Vi, ViInt32 Coupling);
+
+/**
+ * Sets the source and the deviation of the phase modulation.
+ *
+ * The deviation goes to the attribute that the source just set selects. A failure leaves the step before it in force.
+ *
+ * @param Vi         Handle from KVTD481X2C_InitWithOptions.
+ * @param Source     "Internal" or "External", in any case. Not null.
+ * @param Deviation  The deviation in radians.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         0xBFFA0013  Source is neither Internal nor External; nothing is sent
+ *         0xBFFA0059  the instrument's source is no defined value
+ *         a VISA status when the exchange fails
+ *
+ * Sets KVTD481X2C_ATTR_PM_SOURCE, KVTD481X2C_ATTR_PM_DEVIATION, in this order, up to the first failure.
+ * Simulated: stores the values in the attributes that they are passed on to; nothing is sent.
+ * @see KVTD481X2C_ATTR_PM_SOURCE, KVTD481X2C_ATTR_PM_DEVIATION
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ConfigurePM(ViSession Vi, ViConstString Source, ViReal64 Deviation);
+
+/**
+ * Switches the phase modulation on or off.
+ *
+ * @param Vi       Handle from KVTD481X2C_InitWithOptions.
+ * @param Enabled  VI_TRUE switches it on, VI_FALSE off.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         0xBFFA0000  Enabled is neither VI_TRUE nor VI_FALSE; nothing is sent
+ *         a VISA status when the exchange fails
+ *
+ * Sets KVTD481X2C_ATTR_PM_ENABLED.
+ * Simulated: fails with VISA's status: the attribute makes its VISA call.
+ * @see KVTD481X2C_ATTR_PM_ENABLED
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ConfigurePMEnabled(ViSession Vi, ViBoolean Enabled);
+
+/**
+ * Accepts DC as the coupling of the external input; the instrument has no other.
+ *
+ * Nothing is sent.
+ *
+ * @param Vi        Handle from KVTD481X2C_InitWithOptions.
+ * @param Coupling  KVTD481X2C_VAL_PM_EXTERNAL_COUPLING_DC.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         0xBFFA0013  Coupling is any other value, KVTD481X2C_VAL_PM_EXTERNAL_COUPLING_AC included
+ *         a VISA status when the exchange fails
+ *
+ * Sets KVTD481X2C_ATTR_PM_EXTERNAL_COUPLING.
+ * Simulated: the same.
+ * @see KVTD481X2C_ATTR_PM_EXTERNAL_COUPLING
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ConfigurePMExternalCoupling(ViSession Vi, ViInt32 Coupling);
+
+/**
+ * Gives the name of a source of the analog modulations.
+ *
+ * Nothing is sent.
+ *
+ * @param Vi              Handle from KVTD481X2C_InitWithOptions.
+ * @param Index           1 for "Internal", 2 for "External".
+ * @param NameBufferSize  Size of Name, terminator included; at least 1, not tested.
+ * @param Name            The name, cut to the size; untouched after a failure.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Name is null
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0010  Index is neither 1 nor 2; the text gives it less 1, as it counts the names from 0
+ *
+ * Simulated: the same.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetAnalogModulationSourceName(ViSession Vi, ViInt32 Index,
+                                                                          ViInt32 NameBufferSize, ViChar Name[]);
+
+/**
+ * Reads KVTD481X2C_ATTR_FM_ERROR: the instrument's error number for the frequency modulation.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. After a failure: unchanged, but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:FM:ERR?`.
+ * Simulated: nothing is sent; 0.
+ * @see KVTD481X2C_ATTR_FM_ERROR
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetFMError(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_FM_EXTERNAL_SENSITIVITY: frequency deviation that the nominal voltage at the external input
+ * gives.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. In Hz. After a failure: unchanged, but for 0xBFFA0001, which is found after the
+ *               reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViReal64 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:FM:SENS?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.0.
+ * @see KVTD481X2C_SetFMExternalSensitivity, KVTD481X2C_ATTR_FM_EXTERNAL_SENSITIVITY
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetFMExternalSensitivity(ViSession Vi, ViReal64* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_FM_INTERNAL_DEVIATION: frequency deviation with the internal source.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. In Hz. After a failure: unchanged, but for 0xBFFA0001, which is found after the
+ *               reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViReal64 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:FM:DEV?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.0.
+ * @see KVTD481X2C_SetFMInternalDeviation, KVTD481X2C_ATTR_FM_INTERNAL_DEVIATION
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetFMInternalDeviation(ViSession Vi, ViReal64* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_FM_INTERNAL_FREQUENCY: frequency of the internal source of the frequency modulation.
+ *
+ * It is sent bare, without the unit that KVTD481X2C_ATTR_AM_INTERNAL_FREQUENCY is sent with.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. In Hz. After a failure: unchanged, but for 0xBFFA0001, which is found after the
+ *               reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViReal64 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:FM:FREQ?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.0.
+ * @see KVTD481X2C_SetFMInternalFrequency, KVTD481X2C_ATTR_FM_INTERNAL_FREQUENCY
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetFMInternalFrequency(ViSession Vi, ViReal64* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_FM_INTERNAL_WAVEFORM: waveform of the internal source of the frequency modulation.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. KVTD481X2C_VAL_INTERNAL_WAVEFORM_SINE, KVTD481X2C_VAL_INTERNAL_WAVEFORM_GUASSIAN,
+ *               KVTD481X2C_VAL_INTERNAL_WAVEFORM_NEGATIVE_RAMP, KVTD481X2C_VAL_INTERNAL_WAVEFORM_POSITIVE_RAMP,
+ *               KVTD481X2C_VAL_INTERNAL_WAVEFORM_SQUARE, KVTD481X2C_VAL_INTERNAL_WAVEFORM_TRIANGLE or
+ *               KVTD481X2C_VAL_INTERNAL_WAVEFORM_UNIFORM_NOISE. After a failure: -1 with 0xBFFA0059, else unchanged,
+ *               but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0059  the answer is no word of a defined value
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:FM:WAVE?`.
+ * Simulated: nothing is sent; the value last stored, before that KVTD481X2C_VAL_INTERNAL_WAVEFORM_SINE.
+ * @see KVTD481X2C_SetFMInternalWaveform, KVTD481X2C_ATTR_FM_INTERNAL_WAVEFORM
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetFMInternalWaveform(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_FM_MODE: whether the carrier stays locked while its frequency is modulated.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. KVTD481X2C_VAL_FM_MODE_LOCKED or KVTD481X2C_VAL_FM_MODE_UNLOCKED. After a failure:
+ *               -1 with 0xBFFA0059, else unchanged, but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0059  the answer is no word of a defined value
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:FM:MODE?`.
+ * Simulated: nothing is sent; the value last stored, before that KVTD481X2C_VAL_FM_MODE_LOCKED.
+ * @see KVTD481X2C_SetFMMode, KVTD481X2C_ATTR_FM_MODE
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetFMMode(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_FM_SOURCE_EX: what drives the frequency modulation: the internal source or the external input.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. KVTD481X2C_VAL_MODULATION_SOURCE_INTERNAL or
+ *               KVTD481X2C_VAL_MODULATION_SOURCE_EXTERNAL. After a failure: -1 with 0xBFFA0059, else unchanged, but for
+ *               0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0059  the answer is no word of a defined value
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:FM:SOUR?`.
+ * Simulated: nothing is sent; the value last stored, before that KVTD481X2C_VAL_MODULATION_SOURCE_INTERNAL.
+ * @see KVTD481X2C_SetFMSourceEx, KVTD481X2C_ATTR_FM_SOURCE_EX
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetFMSourceEx(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_FM_HIGH_PASS_FILTER: high-pass filter of the frequency modulation, or none (DC).
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. KVTD481X2C_VAL_FM_HIGH_PASS_FILTER_DC, KVTD481X2C_VAL_FM_HIGH_PASS_FILTER_HP63 or
+ *               KVTD481X2C_VAL_FM_HIGH_PASS_FILTER_HP1K. After a failure: -1 with 0xBFFA0059, else unchanged, but for
+ *               0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0059  the answer is no word of a defined value
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:FM:HFIL?`.
+ * Simulated: nothing is sent; the value last stored, before that KVTD481X2C_VAL_FM_HIGH_PASS_FILTER_DC.
+ * @see KVTD481X2C_SetFmHighPassFilter, KVTD481X2C_ATTR_FM_HIGH_PASS_FILTER
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetFmHighPassFilter(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_PM_ERROR: the instrument's error number for the phase modulation.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. After a failure: unchanged, but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:PM:ERR?`.
+ * Simulated: nothing is sent; 0.
+ * @see KVTD481X2C_ATTR_PM_ERROR
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetPMError(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_PM_EXTERNAL_SENSITIVITY: phase deviation that the nominal voltage at the external input gives.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. In rad. After a failure: unchanged, but for 0xBFFA0001, which is found after the
+ *               reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViReal64 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:PM:SENS?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.0.
+ * @see KVTD481X2C_SetPMExternalSensitivity, KVTD481X2C_ATTR_PM_EXTERNAL_SENSITIVITY
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetPMExternalSensitivity(ViSession Vi, ViReal64* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_PM_INTERNAL_DEVIATION: phase deviation with the internal source.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. In rad. After a failure: unchanged, but for 0xBFFA0001, which is found after the
+ *               reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViReal64 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:PM:DEV?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.0.
+ * @see KVTD481X2C_SetPMInternalDeviation, KVTD481X2C_ATTR_PM_INTERNAL_DEVIATION
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetPMInternalDeviation(ViSession Vi, ViReal64* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_PM_INTERNAL_FREQUENCY: frequency of the internal source of the phase modulation.
+ *
+ * It is sent bare, without the unit that KVTD481X2C_ATTR_AM_INTERNAL_FREQUENCY is sent with.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. In Hz. After a failure: unchanged, but for 0xBFFA0001, which is found after the
+ *               reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViReal64 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:PM:FREQ?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.0.
+ * @see KVTD481X2C_SetPMInternalFrequency, KVTD481X2C_ATTR_PM_INTERNAL_FREQUENCY
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetPMInternalFrequency(ViSession Vi, ViReal64* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_PM_INTERNAL_WAVEFORM: waveform of the internal source of the phase modulation.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. KVTD481X2C_VAL_INTERNAL_WAVEFORM_SINE, KVTD481X2C_VAL_INTERNAL_WAVEFORM_GUASSIAN,
+ *               KVTD481X2C_VAL_INTERNAL_WAVEFORM_NEGATIVE_RAMP, KVTD481X2C_VAL_INTERNAL_WAVEFORM_POSITIVE_RAMP,
+ *               KVTD481X2C_VAL_INTERNAL_WAVEFORM_SQUARE, KVTD481X2C_VAL_INTERNAL_WAVEFORM_TRIANGLE or
+ *               KVTD481X2C_VAL_INTERNAL_WAVEFORM_UNIFORM_NOISE. After a failure: -1 with 0xBFFA0059, else unchanged,
+ *               but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0059  the answer is no word of a defined value
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:PM:WAVE?`.
+ * Simulated: nothing is sent; the value last stored, before that KVTD481X2C_VAL_INTERNAL_WAVEFORM_SINE.
+ * @see KVTD481X2C_SetPMInternalWaveform, KVTD481X2C_ATTR_PM_INTERNAL_WAVEFORM
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetPMInternalWaveform(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_PM_MODE: bandwidth of the phase modulation: narrow or wide.
+ *
+ * Narrow and wide are the instrument's minimum and maximum bandwidth, and go out as these words.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. KVTD481X2C_VAL_PM_MODE_NARROW or KVTD481X2C_VAL_PM_MODE_WIDE. After a failure: -1
+ *               with 0xBFFA0059, else unchanged, but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0059  the answer is no word of a defined value
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:PM:BWID?`.
+ * Simulated: nothing is sent; the value last stored, before that KVTD481X2C_VAL_PM_MODE_NARROW.
+ * @see KVTD481X2C_SetPMMode, KVTD481X2C_ATTR_PM_MODE
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetPMMode(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_PM_SOURCE_EX: what drives the phase modulation: the internal source or the external input.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. KVTD481X2C_VAL_MODULATION_SOURCE_INTERNAL or
+ *               KVTD481X2C_VAL_MODULATION_SOURCE_EXTERNAL. After a failure: -1 with 0xBFFA0059, else unchanged, but for
+ *               0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0059  the answer is no word of a defined value
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:PM:SOUR?`.
+ * Simulated: nothing is sent; the value last stored, before that KVTD481X2C_VAL_MODULATION_SOURCE_INTERNAL.
+ * @see KVTD481X2C_SetPMSourceEx, KVTD481X2C_ATTR_PM_SOURCE_EX
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetPMSourceEx(ViSession Vi, ViInt32* Value);
+
+/**
+ * Measures the deviation of the frequency modulation, which is what the name calls its depth.
+ *
+ * The source and KVTD481X2C_ATTR_FM_ENABLED are not looked at, and the result is not remembered.
+ *
+ * @param Vi   Handle from KVTD481X2C_InitWithOptions.
+ * @param Val  The deviation, in the instrument's terms. After a failure: unchanged, or what had arrived.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Val is null
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:MEAS:FM:DEV?`.
+ * Simulated: returns 0 and leaves Val as it was; nothing is sent.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_MeasureFMDepth(ViSession Vi, ViReal64* Val);
+
+/**
+ * Measures the deviation of the phase modulation, which is what the name calls its depth.
+ *
+ * The source and KVTD481X2C_ATTR_PM_ENABLED are not looked at, and the result is not remembered.
+ *
+ * @param Vi   Handle from KVTD481X2C_InitWithOptions.
+ * @param Val  The deviation, in the instrument's terms. After a failure: unchanged, or what had arrived.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Val is null
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:MEAS:PM:DEV?`.
+ * Simulated: returns 0 and leaves Val as it was; nothing is sent.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_MeasurePMDepth(ViSession Vi, ViReal64* Val);
+
+/**
+ * Writes KVTD481X2C_ATTR_FM_EXTERNAL_SENSITIVITY: frequency deviation that the nominal voltage at the external input
+ * gives.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. In Hz. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:FM:SENS <Value>`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetFMExternalSensitivity, KVTD481X2C_ATTR_FM_EXTERNAL_SENSITIVITY
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFMExternalSensitivity(ViSession Vi, ViReal64 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_FM_INTERNAL_DEVIATION: frequency deviation with the internal source.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. In Hz. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:FM:DEV <Value>`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetFMInternalDeviation, KVTD481X2C_ATTR_FM_INTERNAL_DEVIATION
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFMInternalDeviation(ViSession Vi, ViReal64 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_FM_INTERNAL_FREQUENCY: frequency of the internal source of the frequency modulation.
+ *
+ * It is sent bare, without the unit that KVTD481X2C_ATTR_AM_INTERNAL_FREQUENCY is sent with.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. In Hz. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:FM:FREQ <Value>`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetFMInternalFrequency, KVTD481X2C_ATTR_FM_INTERNAL_FREQUENCY
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFMInternalFrequency(ViSession Vi, ViReal64 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_FM_INTERNAL_WAVEFORM: waveform of the internal source of the frequency modulation.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. KVTD481X2C_VAL_INTERNAL_WAVEFORM_SINE, KVTD481X2C_VAL_INTERNAL_WAVEFORM_GUASSIAN,
+ *               KVTD481X2C_VAL_INTERNAL_WAVEFORM_NEGATIVE_RAMP, KVTD481X2C_VAL_INTERNAL_WAVEFORM_POSITIVE_RAMP,
+ *               KVTD481X2C_VAL_INTERNAL_WAVEFORM_SQUARE, KVTD481X2C_VAL_INTERNAL_WAVEFORM_TRIANGLE or
+ *               KVTD481X2C_VAL_INTERNAL_WAVEFORM_UNIFORM_NOISE.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0000  Value is no defined value, or one without a word; nothing is sent
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:FM:WAVE <Value>`.
+ * Simulated: nothing is converted or sent; the value is stored.
+ * @see KVTD481X2C_GetFMInternalWaveform, KVTD481X2C_ATTR_FM_INTERNAL_WAVEFORM
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFMInternalWaveform(ViSession Vi, ViInt32 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_FM_MODE: whether the carrier stays locked while its frequency is modulated.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. KVTD481X2C_VAL_FM_MODE_LOCKED or KVTD481X2C_VAL_FM_MODE_UNLOCKED.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0000  Value is no defined value, or one without a word; nothing is sent
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:FM:MODE <Value>`.
+ * Simulated: nothing is converted or sent; the value is stored.
+ * @see KVTD481X2C_GetFMMode, KVTD481X2C_ATTR_FM_MODE
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFMMode(ViSession Vi, ViInt32 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_FM_SOURCE_EX: what drives the frequency modulation: the internal source or the external input.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. KVTD481X2C_VAL_MODULATION_SOURCE_INTERNAL or KVTD481X2C_VAL_MODULATION_SOURCE_EXTERNAL.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0000  Value is no defined value, or one without a word; nothing is sent
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:FM:SOUR <Value>`.
+ * Simulated: nothing is converted or sent; the value is stored.
+ * @see KVTD481X2C_GetFMSourceEx, KVTD481X2C_ATTR_FM_SOURCE_EX
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFMSourceEx(ViSession Vi, ViInt32 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_FM_HIGH_PASS_FILTER: high-pass filter of the frequency modulation, or none (DC).
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. KVTD481X2C_VAL_FM_HIGH_PASS_FILTER_DC, KVTD481X2C_VAL_FM_HIGH_PASS_FILTER_HP63 or
+ *               KVTD481X2C_VAL_FM_HIGH_PASS_FILTER_HP1K.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0000  Value is no defined value, or one without a word; nothing is sent
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:FM:HFIL <Value>`.
+ * Simulated: nothing is converted or sent; the value is stored.
+ * @see KVTD481X2C_GetFmHighPassFilter, KVTD481X2C_ATTR_FM_HIGH_PASS_FILTER
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFmHighPassFilter(ViSession Vi, ViInt32 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_PM_EXTERNAL_SENSITIVITY: phase deviation that the nominal voltage at the external input gives.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. In rad. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:PM:SENS <Value>`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetPMExternalSensitivity, KVTD481X2C_ATTR_PM_EXTERNAL_SENSITIVITY
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPMExternalSensitivity(ViSession Vi, ViReal64 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_PM_INTERNAL_DEVIATION: phase deviation with the internal source.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. In rad. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:PM:DEV <Value>`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetPMInternalDeviation, KVTD481X2C_ATTR_PM_INTERNAL_DEVIATION
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPMInternalDeviation(ViSession Vi, ViReal64 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_PM_INTERNAL_FREQUENCY: frequency of the internal source of the phase modulation.
+ *
+ * It is sent bare, without the unit that KVTD481X2C_ATTR_AM_INTERNAL_FREQUENCY is sent with.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. In Hz. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:PM:FREQ <Value>`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetPMInternalFrequency, KVTD481X2C_ATTR_PM_INTERNAL_FREQUENCY
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPMInternalFrequency(ViSession Vi, ViReal64 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_PM_INTERNAL_WAVEFORM: waveform of the internal source of the phase modulation.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. KVTD481X2C_VAL_INTERNAL_WAVEFORM_SINE, KVTD481X2C_VAL_INTERNAL_WAVEFORM_GUASSIAN,
+ *               KVTD481X2C_VAL_INTERNAL_WAVEFORM_NEGATIVE_RAMP, KVTD481X2C_VAL_INTERNAL_WAVEFORM_POSITIVE_RAMP,
+ *               KVTD481X2C_VAL_INTERNAL_WAVEFORM_SQUARE, KVTD481X2C_VAL_INTERNAL_WAVEFORM_TRIANGLE or
+ *               KVTD481X2C_VAL_INTERNAL_WAVEFORM_UNIFORM_NOISE.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0000  Value is no defined value, or one without a word; nothing is sent
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:PM:WAVE <Value>`.
+ * Simulated: nothing is converted or sent; the value is stored.
+ * @see KVTD481X2C_GetPMInternalWaveform, KVTD481X2C_ATTR_PM_INTERNAL_WAVEFORM
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPMInternalWaveform(ViSession Vi, ViInt32 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_PM_MODE: bandwidth of the phase modulation: narrow or wide.
+ *
+ * Narrow and wide are the instrument's minimum and maximum bandwidth, and go out as these words.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. KVTD481X2C_VAL_PM_MODE_NARROW or KVTD481X2C_VAL_PM_MODE_WIDE.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0000  Value is no defined value, or one without a word; nothing is sent
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:PM:BWID <Value>`.
+ * Simulated: nothing is converted or sent; the value is stored.
+ * @see KVTD481X2C_GetPMMode, KVTD481X2C_ATTR_PM_MODE
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPMMode(ViSession Vi, ViInt32 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_PM_SOURCE_EX: what drives the phase modulation: the internal source or the external input.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. KVTD481X2C_VAL_MODULATION_SOURCE_INTERNAL or KVTD481X2C_VAL_MODULATION_SOURCE_EXTERNAL.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0000  Value is no defined value, or one without a word; nothing is sent
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:PM:SOUR <Value>`.
+ * Simulated: nothing is converted or sent; the value is stored.
+ * @see KVTD481X2C_GetPMSourceEx, KVTD481X2C_ATTR_PM_SOURCE_EX
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPMSourceEx(ViSession Vi, ViInt32 Value);
 
 /** @} */
 
@@ -1432,7 +2692,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetSelectedPresetFrequency(ViSession
  *         a VISA status when the exchange fails
  *
  * Sends `:FREQ:STEP <Value> HZ`.
- * Simulated: nothing is converted or sent; the value is stored.
+ * Simulated: nothing is sent; the value is stored.
  * @see KVTD481X2C_GetCWFrequencyStep, KVTD481X2C_ATTR_CW_FREQUENCY_STEP
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetCWFrequencyStep(ViSession Vi, ViReal64 Value);
@@ -1470,7 +2730,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFrequencyMode(ViSession Vi, ViInt
  *         a VISA status when the exchange fails
  *
  * Sends `:FREQ:MULT <Value> HZ`.
- * Simulated: nothing is converted or sent; the value is stored.
+ * Simulated: nothing is sent; the value is stored.
  * @see KVTD481X2C_GetFrequencyMultiplier, KVTD481X2C_ATTR_FREQUENCY_MULTIPLIER
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFrequencyMultiplier(ViSession Vi, ViReal64 Value);
@@ -1486,7 +2746,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFrequencyMultiplier(ViSession Vi,
  *         a VISA status when the exchange fails
  *
  * Sends `:FREQ:F0 <Value>`.
- * Simulated: nothing is converted or sent; the value is stored.
+ * Simulated: nothing is sent; the value is stored.
  * @see KVTD481X2C_GetFrequencyPresetF0, KVTD481X2C_ATTR_FREQUENCY_PRESET_F0
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFrequencyPresetF0(ViSession Vi, ViReal64 Value);
@@ -1502,7 +2762,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFrequencyPresetF0(ViSession Vi, V
  *         a VISA status when the exchange fails
  *
  * Sends `:FREQ:F1 <Value>`.
- * Simulated: nothing is converted or sent; the value is stored.
+ * Simulated: nothing is sent; the value is stored.
  * @see KVTD481X2C_GetFrequencyPresetF1, KVTD481X2C_ATTR_FREQUENCY_PRESET_F1
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFrequencyPresetF1(ViSession Vi, ViReal64 Value);
@@ -1518,7 +2778,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFrequencyPresetF1(ViSession Vi, V
  *         a VISA status when the exchange fails
  *
  * Sends `:FREQ:F2 <Value>`.
- * Simulated: nothing is converted or sent; the value is stored.
+ * Simulated: nothing is sent; the value is stored.
  * @see KVTD481X2C_GetFrequencyPresetF2, KVTD481X2C_ATTR_FREQUENCY_PRESET_F2
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFrequencyPresetF2(ViSession Vi, ViReal64 Value);
@@ -1534,7 +2794,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFrequencyPresetF2(ViSession Vi, V
  *         a VISA status when the exchange fails
  *
  * Sends `:FREQ:F3 <Value>`.
- * Simulated: nothing is converted or sent; the value is stored.
+ * Simulated: nothing is sent; the value is stored.
  * @see KVTD481X2C_GetFrequencyPresetF3, KVTD481X2C_ATTR_FREQUENCY_PRESET_F3
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFrequencyPresetF3(ViSession Vi, ViReal64 Value);
@@ -1550,7 +2810,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFrequencyPresetF3(ViSession Vi, V
  *         a VISA status when the exchange fails
  *
  * Sends `:FREQ:F4 <Value>`.
- * Simulated: nothing is converted or sent; the value is stored.
+ * Simulated: nothing is sent; the value is stored.
  * @see KVTD481X2C_GetFrequencyPresetF4, KVTD481X2C_ATTR_FREQUENCY_PRESET_F4
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFrequencyPresetF4(ViSession Vi, ViReal64 Value);
@@ -1566,7 +2826,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFrequencyPresetF4(ViSession Vi, V
  *         a VISA status when the exchange fails
  *
  * Sends `:FREQ:F5 <Value>`.
- * Simulated: nothing is converted or sent; the value is stored.
+ * Simulated: nothing is sent; the value is stored.
  * @see KVTD481X2C_GetFrequencyPresetF5, KVTD481X2C_ATTR_FREQUENCY_PRESET_F5
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFrequencyPresetF5(ViSession Vi, ViReal64 Value);
@@ -1582,7 +2842,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFrequencyPresetF5(ViSession Vi, V
  *         a VISA status when the exchange fails
  *
  * Sends `:FREQ:F6 <Value>`.
- * Simulated: nothing is converted or sent; the value is stored.
+ * Simulated: nothing is sent; the value is stored.
  * @see KVTD481X2C_GetFrequencyPresetF6, KVTD481X2C_ATTR_FREQUENCY_PRESET_F6
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFrequencyPresetF6(ViSession Vi, ViReal64 Value);
@@ -1598,7 +2858,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFrequencyPresetF6(ViSession Vi, V
  *         a VISA status when the exchange fails
  *
  * Sends `:FREQ:F7 <Value>`.
- * Simulated: nothing is converted or sent; the value is stored.
+ * Simulated: nothing is sent; the value is stored.
  * @see KVTD481X2C_GetFrequencyPresetF7, KVTD481X2C_ATTR_FREQUENCY_PRESET_F7
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFrequencyPresetF7(ViSession Vi, ViReal64 Value);
@@ -1614,7 +2874,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFrequencyPresetF7(ViSession Vi, V
  *         a VISA status when the exchange fails
  *
  * Sends `:FREQ:F8 <Value>`.
- * Simulated: nothing is converted or sent; the value is stored.
+ * Simulated: nothing is sent; the value is stored.
  * @see KVTD481X2C_GetFrequencyPresetF8, KVTD481X2C_ATTR_FREQUENCY_PRESET_F8
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFrequencyPresetF8(ViSession Vi, ViReal64 Value);
@@ -1630,7 +2890,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFrequencyPresetF8(ViSession Vi, V
  *         a VISA status when the exchange fails
  *
  * Sends `:FREQ:F9 <Value>`.
- * Simulated: nothing is converted or sent; the value is stored.
+ * Simulated: nothing is sent; the value is stored.
  * @see KVTD481X2C_GetFrequencyPresetF9, KVTD481X2C_ATTR_FREQUENCY_PRESET_F9
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFrequencyPresetF9(ViSession Vi, ViReal64 Value);
@@ -1655,6 +2915,523 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFrequencyPresetF9(ViSession Vi, V
  * @see KVTD481X2C_GetSelectedPresetFrequency, KVTD481X2C_ATTR_SELECTED_PRESET_FREQUENCY
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetSelectedPresetFrequency(ViSession Vi, ViInt32 Value);
+
+/** @} */
+
+/**
+ * @defgroup lf_generator LF generator
+ *
+ * The class has low-frequency generators, selected by name. The instrument has none as such, but the internal sources
+ * of its amplitude, frequency and phase modulation: these are the three generators "AM", "FM" and "PM". One of them, or
+ * several, is active, and an access to the frequency or the waveform becomes one to the internal frequency or waveform
+ * of the modulation that it stands for. There is no command of its own.
+ *
+ * Opening a session makes "AM" active. Only the active generator counts: the selector of the generic access selects
+ * nothing here. It is not among the values that KVTD481X2C_InvalidateAllAttributes forgets.
+ * @{
+ */
+
+/** The active LF generators: one of "AM", "FM" and "PM", or several, separated by commas. ViString, read and write. */
+#define KVTD481X2C_ATTR_ACTIVE_LF_GENERATOR 1250101
+
+/** Frequency of the active LF generator. ViReal64, Hz, read and write. */
+#define KVTD481X2C_ATTR_LF_GENERATOR_FREQUENCY 1250102
+
+/** Waveform of the active LF generator. ViInt32, enumeration INTERNAL_WAVEFORM, read and write. */
+#define KVTD481X2C_ATTR_LF_GENERATOR_WAVEFORM 1250103
+
+/** Number of LF generators. ViInt32, read. */
+#define KVTD481X2C_ATTR_LF_GENERATOR_COUNT 1250104
+
+/**
+ * Sets the frequency and the waveform of the active LF generators.
+ *
+ * Both are set once for each active generator, and each time reach all of them: with several active the same values are
+ * sent repeatedly. Stops at the first failure; what was set before it stays.
+ *
+ * @param Vi         Handle from KVTD481X2C_InitWithOptions.
+ * @param Frequency  The frequency in hertz.
+ * @param Waveform   A value of KVTD481X2C_ATTR_LF_GENERATOR_WAVEFORM.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         0xBFFA0000  Waveform is no defined value; the frequency is set
+ *         a VISA status when the exchange fails
+ *
+ * Sets KVTD481X2C_ATTR_LF_GENERATOR_FREQUENCY, KVTD481X2C_ATTR_LF_GENERATOR_WAVEFORM, in this order, up to the first
+ * failure.
+ * Simulated: stores the values in the attributes that they are passed on to; nothing is sent.
+ * @see KVTD481X2C_ATTR_LF_GENERATOR_FREQUENCY, KVTD481X2C_ATTR_LF_GENERATOR_WAVEFORM
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ConfigureLFGenerator(ViSession Vi, ViReal64 Frequency, ViInt32 Waveform);
+
+/**
+ * Gives the name of an LF generator.
+ *
+ * Nothing is sent.
+ *
+ * @param Vi              Handle from KVTD481X2C_InitWithOptions.
+ * @param Index           1 for "AM", 2 for "FM", 3 for "PM".
+ * @param NameBufferSize  Size of Name, terminator included; at least 1, not tested.
+ * @param Name            The name, cut to the size; untouched after a failure.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Name is null
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0010  Index is none of 1 to 3; the text gives it less 1, as it counts the names from 0
+ *
+ * Simulated: the same.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetLFGeneratorName(ViSession Vi, ViInt32 Index, ViInt32 NameBufferSize,
+                                                               ViChar Name[]);
+
+/**
+ * Chooses the LF generators that are active.
+ *
+ * The same as writing KVTD481X2C_ATTR_ACTIVE_LF_GENERATOR. A failure leaves the active generators as they were.
+ *
+ * @param Vi      Handle from KVTD481X2C_InitWithOptions.
+ * @param Active  "AM", "FM", "PM", or several, separated by commas.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0067  a name is none of AM, FM and PM; their case counts
+ *         0xBFFA0044  Active is empty or null
+ *         0xBFFA0066  Active is badly formed, or a name stands twice
+ *         0xBFFA0064  a range in Active is no range, or overlaps
+ *         0xBFFA0063  Active has more than one level
+ *
+ * Simulated: the same; nothing is sent in either case.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetActiveLFGenerator(ViSession Vi, ViConstString Active);
+
+/** @} */
+
+/**
+ * @defgroup list List
+ *
+ * Lists of frequency and power points. The instrument has ten, numbered from 1, of up to 4000 points each.
+ *
+ * The class speaks of lists by name. The session keeps a table from the names given to KVTD481X2C_CreateFrequencyList
+ * and its fellows to the numbers of the instrument. A new entry takes the lowest number that no entry holds; a name
+ * that is created again takes the lowest free number as well and gives its old one back. Names are compared byte by
+ * byte. The table ends with the session and is not touched by a reset; the lists stay in the instrument.
+ *
+ * The functions with a list number go past the table: the number is sent as it is.
+ * @{
+ */
+
+/** Number of frequency points in the list. ViInt32, read. */
+#define KVTD481X2C_ATTR_NUMBER_OF_LIST_FREQUENCY_POINTS 1150051
+
+/** Number of power points in the list. ViInt32, read. */
+#define KVTD481X2C_ATTR_NUMBER_OF_LIST_POWER_POINTS 1150052
+
+/** Selects the list to play, by the name it was created under. ViString, read and write. */
+#define KVTD481X2C_ATTR_LIST_SELECTED_NAME 1250281
+
+/** Whether each trigger advances the list by one point. ViBoolean, read and write. */
+#define KVTD481X2C_ATTR_LIST_SINGLE_STEP_ENABLED 1250282
+
+/** How long a list stays at each point. ViReal64, s, read and write. */
+#define KVTD481X2C_ATTR_LIST_DWELL 1250283
+
+/**
+ * Forgets all names, so that the next list created is the first.
+ *
+ * The lists stay in the instrument, and so does the mode. Nothing is sent.
+ *
+ * @param Vi  Handle from KVTD481X2C_InitWithOptions.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *
+ * Simulated: the same.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ClearAllLists(ViSession Vi);
+
+/**
+ * Sets how long a list stays at each point.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Dwell  The time at each point in seconds.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sets KVTD481X2C_ATTR_LIST_DWELL.
+ * Simulated: fails with VISA's status: the attribute makes its VISA call.
+ * @see KVTD481X2C_ATTR_LIST_DWELL
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ConfigureListDwell(ViSession Vi, ViReal64 Dwell);
+
+/**
+ * Copies the points of the sweep into a list.
+ *
+ * @param Vi  Handle from KVTD481X2C_InitWithOptions.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:LIST:COPY`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_CopyListSweep(ViSession Vi);
+
+/**
+ * Gives a list a name and loads it with frequencies, all at the present power level.
+ *
+ * The frequencies are sent, then the power level is read and sent once for each point. A failure of the first of these
+ * is not reported, and the name stays in the table whatever fails later. The list is not selected. The text of the
+ * length error names "Length" as the function and "CreateFrequencyList" as the parameter; callers know it so.
+ *
+ * @param Vi         Handle from KVTD481X2C_InitWithOptions.
+ * @param Name       The name, which may be empty. Not null.
+ * @param Length     Number of points, at most 4000.
+ * @param Frequency  The frequencies in hertz. Not null.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         0xBFFA0010  Length is above 4000; the table is as it was
+ *         0xBFFA0000  ten lists have a name, also if Name is one of them; the table is as it was
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:LIST%ld:FREQ:UPD %ld,%0.15,*lf`, `:POW?`, `:LIST%ld:POW:UPD %ld,%0.15,*lf`.
+ * Simulated: the name enters the table; then the reading of the power level fails with VISA's status.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_CreateFrequencyList(ViSession Vi, ViConstString Name, ViInt32 Length,
+                                                                const ViReal64* Frequency);
+
+/**
+ * Gives a list a name and loads it with frequencies and power levels.
+ *
+ * A failure of the frequencies is not reported, and the name stays in the table whatever fails later. The list is not
+ * selected. The text of the length error names "Length" as the function and "CreateFrequencyPowerList" as the
+ * parameter; callers know it so.
+ *
+ * @param Vi         Handle from KVTD481X2C_InitWithOptions.
+ * @param Name       The name, which may be empty. Not null.
+ * @param Length     Number of points, at most 4000.
+ * @param Frequency  The frequencies in hertz. Not null.
+ * @param Power      The power levels in dBm. Not null.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         0xBFFA0010  Length is above 4000; the table is as it was
+ *         0xBFFA0000  ten lists have a name, also if Name is one of them; the table is as it was
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:LIST%ld:FREQ:UPD %ld,%0.15,*lf`, `:LIST%ld:POW:UPD %ld,%0.15,*lf`.
+ * Simulated: the name enters the table; nothing is sent.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_CreateFrequencyPowerList(ViSession Vi, ViConstString Name, ViInt32 Length,
+                                                                     const ViReal64* Frequency, const ViReal64* Power);
+
+/**
+ * Gives a list a name and loads it with power levels, all at the present frequency.
+ *
+ * The power levels are sent, then the frequency is read and sent once for each point. A failure of the first of these
+ * is not reported, and the name stays in the table whatever fails later. The list is not selected. The text of the
+ * length error names "Length" as the function and "CreatePowerList" as the parameter; callers know it so.
+ *
+ * @param Vi      Handle from KVTD481X2C_InitWithOptions.
+ * @param Name    The name, which may be empty. Not null.
+ * @param Length  Number of points, at most 4000.
+ * @param Power   The power levels in dBm. Not null.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         0xBFFA0010  Length is above 4000; the table is as it was
+ *         0xBFFA0000  ten lists have a name, also if Name is one of them; the table is as it was
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:LIST%ld:POW:UPD %ld,%0.15,*lf`, `:FREQ?`, `:LIST%ld:FREQ:UPD %ld,%0.15,*lf`.
+ * Simulated: the name enters the table; then the reading of the frequency fails with VISA's status.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_CreatePowerList(ViSession Vi, ViConstString Name, ViInt32 Length,
+                                                            const ViReal64* Power);
+
+/**
+ * Reads the frequency of a list.
+ *
+ * Where the instrument answers with several values, the first is taken and the others are dropped.
+ *
+ * @param Vi    Handle from KVTD481X2C_InitWithOptions.
+ * @param List  The number of the list in the instrument, 1 to 10; not tested.
+ * @param Val   The frequency in hertz. After a failure: unchanged, or what had arrived.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         0xBFFA0058  Val is null, also in a simulated session
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:LIST<List>:FREQ?`.
+ * Simulated: returns 0, sends nothing and leaves Val as it was.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetListFrequency(ViSession Vi, ViInt32 List, ViReal64* Val);
+
+/**
+ * Reads the point at which a list stands.
+ *
+ * @param Vi    Handle from KVTD481X2C_InitWithOptions.
+ * @param List  The number of the list in the instrument, 1 to 10; not tested.
+ * @param Val   Index of the point. After a failure: unchanged, or what had arrived.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         0xBFFA0058  Val is null, also in a simulated session
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:LIST<List>:IND?`.
+ * Simulated: returns 0, sends nothing and leaves Val as it was.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetListIndex(ViSession Vi, ViInt32 List, ViInt32* Val);
+
+/**
+ * Reads the power level of a list.
+ *
+ * Where the instrument answers with several values, the first is taken and the others are dropped.
+ *
+ * @param Vi    Handle from KVTD481X2C_InitWithOptions.
+ * @param List  The number of the list in the instrument, 1 to 10; not tested.
+ * @param Val   The power level in dBm. After a failure: unchanged, or what had arrived.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         0xBFFA0058  Val is null, also in a simulated session
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:LIST<List>:POW?`.
+ * Simulated: returns 0, sends nothing and leaves Val as it was.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetListPowerLevel(ViSession Vi, ViInt32 List, ViReal64* Val);
+
+/**
+ * Reads the point at which the play of a list begins.
+ *
+ * @param Vi    Handle from KVTD481X2C_InitWithOptions.
+ * @param List  The number of the list in the instrument, 1 to 10; not tested.
+ * @param Val   Index of the first point played. After a failure: unchanged, or what had arrived.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         0xBFFA0058  Val is null, also in a simulated session
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:LIST<List>:STAR?`.
+ * Simulated: returns 0, sends nothing and leaves Val as it was.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetListSweepStart(ViSession Vi, ViInt32 List, ViInt32* Val);
+
+/**
+ * Reads the point at which the play of a list ends.
+ *
+ * @param Vi    Handle from KVTD481X2C_InitWithOptions.
+ * @param List  The number of the list in the instrument, 1 to 10; not tested.
+ * @param Val   Index of the last point played. After a failure: unchanged, or what had arrived.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         0xBFFA0058  Val is null, also in a simulated session
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:LIST<List>:STOP?`.
+ * Simulated: returns 0, sends nothing and leaves Val as it was.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetListSweepStop(ViSession Vi, ViInt32 List, ViInt32* Val);
+
+/**
+ * Reads KVTD481X2C_ATTR_NUMBER_OF_LIST_FREQUENCY_POINTS: number of frequency points in the list.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. After a failure: unchanged, but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:LIST:FREQ:POIN?`.
+ * Simulated: nothing is sent; 4000.
+ * @see KVTD481X2C_ATTR_NUMBER_OF_LIST_FREQUENCY_POINTS
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetNumberOfListFrequencyPoints(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_NUMBER_OF_LIST_POWER_POINTS: number of power points in the list.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. After a failure: unchanged, but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:LIST:POW:POIN?`.
+ * Simulated: nothing is sent; 4000.
+ * @see KVTD481X2C_ATTR_NUMBER_OF_LIST_POWER_POINTS
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetNumberOfListPowerPoints(ViSession Vi, ViInt32* Value);
+
+/**
+ * Takes the selected list back to its first point.
+ *
+ * As the name of a selected list is not kept, there is none to go by: nothing is sent and 0 is returned.
+ *
+ * @param Vi  Handle from KVTD481X2C_InitWithOptions.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *
+ * Simulated: the same.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ResetList(ViSession Vi);
+
+/**
+ * Selects the list to play, by name.
+ *
+ * @param Vi    Handle from KVTD481X2C_InitWithOptions.
+ * @param Name  The name it was created under. Not null.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         0xBFFA200A  no list of this name; the mode is as it was
+ *         a VISA status when the exchange fails
+ *
+ * Sets KVTD481X2C_ATTR_LIST_SELECTED_NAME.
+ * Simulated: sets the stored frequency mode; nothing is sent.
+ * @see KVTD481X2C_ATTR_LIST_SELECTED_NAME
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SelectList(ViSession Vi, ViConstString Name);
+
+/**
+ * Loads a list with frequencies.
+ *
+ * All points go out in one line, with fifteen digits behind the decimal point.
+ *
+ * @param Vi      Handle from KVTD481X2C_InitWithOptions.
+ * @param List    The number of the list in the instrument, 1 to 10; not tested.
+ * @param Count   Number of values.
+ * @param Values  The frequencies in hertz. Not null.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:LIST%ld:FREQ %0.15,*lf`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetListFrequencies(ViSession Vi, ViInt32 List, ViInt32 Count,
+                                                               const ViReal64* Values);
+
+/**
+ * Moves a list to one of its points.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param List   The number of the list in the instrument, 1 to 10; not tested.
+ * @param Index  Index of the point.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:LIST<List>:IND <Index>`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetListIndex(ViSession Vi, ViInt32 List, ViInt32 Index);
+
+/**
+ * Loads a list with power levels.
+ *
+ * All points go out in one line, with fifteen digits behind the decimal point.
+ *
+ * @param Vi      Handle from KVTD481X2C_InitWithOptions.
+ * @param List    The number of the list in the instrument, 1 to 10; not tested.
+ * @param Count   Number of values.
+ * @param Values  The power levels in dBm. Not null.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:LIST%ld:POW %0.15,*lf`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetListPowerLevels(ViSession Vi, ViInt32 List, ViInt32 Count,
+                                                               const ViReal64* Values);
+
+/**
+ * Sets the point at which the play of a list begins.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param List   The number of the list in the instrument, 1 to 10; not tested.
+ * @param Start  Index of the first point played.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:LIST<List>:STAR <Start>`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetListSweepStart(ViSession Vi, ViInt32 List, ViInt32 Start);
+
+/**
+ * Sets the point at which the play of a list ends.
+ *
+ * @param Vi    Handle from KVTD481X2C_InitWithOptions.
+ * @param List  The number of the list in the instrument, 1 to 10; not tested.
+ * @param Stop  Index of the last point played.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:LIST<List>:STOP <Stop>`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetListSweepStop(ViSession Vi, ViInt32 List, ViInt32 Stop);
+
+/**
+ * Changes frequencies of a list from a point on.
+ *
+ * All points go out in one line, with fifteen digits behind the decimal point.
+ *
+ * @param Vi      Handle from KVTD481X2C_InitWithOptions.
+ * @param List    The number of the list in the instrument, 1 to 10; not tested.
+ * @param Start   Index of the first point to change, from 0.
+ * @param Count   Number of values.
+ * @param Values  The frequencies in hertz. Not null.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:LIST%ld:FREQ:UPD %ld,%0.15,*lf`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_UpdateListFrequencies(ViSession Vi, ViInt32 List, ViInt32 Start,
+                                                                  ViInt32 Count, const ViReal64* Values);
+
+/**
+ * Changes power levels of a list from a point on.
+ *
+ * All points go out in one line, with fifteen digits behind the decimal point.
+ *
+ * @param Vi      Handle from KVTD481X2C_InitWithOptions.
+ * @param List    The number of the list in the instrument, 1 to 10; not tested.
+ * @param Start   Index of the first point to change, from 0.
+ * @param Count   Number of values.
+ * @param Values  The power levels in dBm. Not null.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:LIST%ld:POW:UPD %ld,%0.15,*lf`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_UpdateListPowerLevels(ViSession Vi, ViInt32 List, ViInt32 Start,
+                                                                  ViInt32 Count, const ViReal64* Values);
 
 /** @} */
 
@@ -2360,7 +4137,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetALCSourceEx(ViSession Vi, ViInt32
  *         a VISA status when the exchange fails
  *
  * Sends `:POW:ATT <Value>`.
- * Simulated: nothing is converted or sent; the value is stored.
+ * Simulated: nothing is sent; the value is stored.
  * @see KVTD481X2C_GetPowerAttenuation, KVTD481X2C_ATTR_POWER_ATTENUATION
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerAttenuation(ViSession Vi, ViReal64 Value);
@@ -2376,7 +4153,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerAttenuation(ViSession Vi, Vi
  *         a VISA status when the exchange fails
  *
  * Sends `:POW:DAC <Value>`.
- * Simulated: nothing is converted or sent; the value is stored.
+ * Simulated: nothing is sent; the value is stored.
  * @see KVTD481X2C_GetPowerDACLevel, KVTD481X2C_ATTR_POWER_DAC_LEVEL
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerDACLevel(ViSession Vi, ViInt32 Value);
@@ -2392,7 +4169,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerDACLevel(ViSession Vi, ViInt
  *         a VISA status when the exchange fails
  *
  * Sends `:POW:DISP:OFFS <Value>`.
- * Simulated: nothing is converted or sent; the value is stored.
+ * Simulated: nothing is sent; the value is stored.
  * @see KVTD481X2C_GetPowerDisplayOffset, KVTD481X2C_ATTR_POWER_DISPLAY_OFFSET
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerDisplayOffset(ViSession Vi, ViReal64 Value);
@@ -2427,7 +4204,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerDisplayOffsetEnabled(ViSessi
  *         a VISA status when the exchange fails
  *
  * Sends `:POW:LIM <Value>`.
- * Simulated: nothing is converted or sent; the value is stored.
+ * Simulated: nothing is sent; the value is stored.
  * @see KVTD481X2C_GetPowerLimit, KVTD481X2C_ATTR_POWER_LIMIT
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerLimit(ViSession Vi, ViReal64 Value);
@@ -2500,7 +4277,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerMode(ViSession Vi, ViInt32 V
  *         a VISA status when the exchange fails
  *
  * Sends `:POW:L0 <Value>`.
- * Simulated: nothing is converted or sent; the value is stored.
+ * Simulated: nothing is sent; the value is stored.
  * @see KVTD481X2C_GetPowerPresetL0, KVTD481X2C_ATTR_POWER_PRESET_L0
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerPresetL0(ViSession Vi, ViReal64 Value);
@@ -2516,7 +4293,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerPresetL0(ViSession Vi, ViRea
  *         a VISA status when the exchange fails
  *
  * Sends `:POW:L1 <Value>`.
- * Simulated: nothing is converted or sent; the value is stored.
+ * Simulated: nothing is sent; the value is stored.
  * @see KVTD481X2C_GetPowerPresetL1, KVTD481X2C_ATTR_POWER_PRESET_L1
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerPresetL1(ViSession Vi, ViReal64 Value);
@@ -2532,7 +4309,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerPresetL1(ViSession Vi, ViRea
  *         a VISA status when the exchange fails
  *
  * Sends `:POW:L2 <Value>`.
- * Simulated: nothing is converted or sent; the value is stored.
+ * Simulated: nothing is sent; the value is stored.
  * @see KVTD481X2C_GetPowerPresetL2, KVTD481X2C_ATTR_POWER_PRESET_L2
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerPresetL2(ViSession Vi, ViReal64 Value);
@@ -2548,7 +4325,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerPresetL2(ViSession Vi, ViRea
  *         a VISA status when the exchange fails
  *
  * Sends `:POW:L3 <Value>`.
- * Simulated: nothing is converted or sent; the value is stored.
+ * Simulated: nothing is sent; the value is stored.
  * @see KVTD481X2C_GetPowerPresetL3, KVTD481X2C_ATTR_POWER_PRESET_L3
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerPresetL3(ViSession Vi, ViReal64 Value);
@@ -2564,7 +4341,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerPresetL3(ViSession Vi, ViRea
  *         a VISA status when the exchange fails
  *
  * Sends `:POW:L4 <Value>`.
- * Simulated: nothing is converted or sent; the value is stored.
+ * Simulated: nothing is sent; the value is stored.
  * @see KVTD481X2C_GetPowerPresetL4, KVTD481X2C_ATTR_POWER_PRESET_L4
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerPresetL4(ViSession Vi, ViReal64 Value);
@@ -2580,7 +4357,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerPresetL4(ViSession Vi, ViRea
  *         a VISA status when the exchange fails
  *
  * Sends `:POW:L5 <Value>`.
- * Simulated: nothing is converted or sent; the value is stored.
+ * Simulated: nothing is sent; the value is stored.
  * @see KVTD481X2C_GetPowerPresetL5, KVTD481X2C_ATTR_POWER_PRESET_L5
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerPresetL5(ViSession Vi, ViReal64 Value);
@@ -2596,7 +4373,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerPresetL5(ViSession Vi, ViRea
  *         a VISA status when the exchange fails
  *
  * Sends `:POW:L6 <Value>`.
- * Simulated: nothing is converted or sent; the value is stored.
+ * Simulated: nothing is sent; the value is stored.
  * @see KVTD481X2C_GetPowerPresetL6, KVTD481X2C_ATTR_POWER_PRESET_L6
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerPresetL6(ViSession Vi, ViReal64 Value);
@@ -2612,7 +4389,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerPresetL6(ViSession Vi, ViRea
  *         a VISA status when the exchange fails
  *
  * Sends `:POW:L7 <Value>`.
- * Simulated: nothing is converted or sent; the value is stored.
+ * Simulated: nothing is sent; the value is stored.
  * @see KVTD481X2C_GetPowerPresetL7, KVTD481X2C_ATTR_POWER_PRESET_L7
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerPresetL7(ViSession Vi, ViReal64 Value);
@@ -2628,7 +4405,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerPresetL7(ViSession Vi, ViRea
  *         a VISA status when the exchange fails
  *
  * Sends `:POW:L8 <Value>`.
- * Simulated: nothing is converted or sent; the value is stored.
+ * Simulated: nothing is sent; the value is stored.
  * @see KVTD481X2C_GetPowerPresetL8, KVTD481X2C_ATTR_POWER_PRESET_L8
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerPresetL8(ViSession Vi, ViReal64 Value);
@@ -2644,7 +4421,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerPresetL8(ViSession Vi, ViRea
  *         a VISA status when the exchange fails
  *
  * Sends `:POW:L9 <Value>`.
- * Simulated: nothing is converted or sent; the value is stored.
+ * Simulated: nothing is sent; the value is stored.
  * @see KVTD481X2C_GetPowerPresetL9, KVTD481X2C_ATTR_POWER_PRESET_L9
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerPresetL9(ViSession Vi, ViReal64 Value);
@@ -2662,7 +4439,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerPresetL9(ViSession Vi, ViRea
  *         a VISA status when the exchange fails
  *
  * Sends `:POW:STEP <Value>`.
- * Simulated: nothing is converted or sent; the value is stored.
+ * Simulated: nothing is sent; the value is stored.
  * @see KVTD481X2C_GetPowerStep, KVTD481X2C_ATTR_POWER_STEP
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerStep(ViSession Vi, ViReal64 Value);
@@ -2723,6 +4500,1471 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetRfOutputBlankingEnabled(ViSession
  * @see KVTD481X2C_GetSelectedPowerPresetLevel, KVTD481X2C_ATTR_SELECTED_POWER_PRESET_LEVEL
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetSelectedPowerPresetLevel(ViSession Vi, ViInt32 Value);
+
+/** @} */
+
+/**
+ * @defgroup pulse Pulse modulation
+ *
+ * The pulse modulator and the pulse generator behind it: a train of up to four pulses, each with a width and a delay,
+ * its period, its count, and the trigger that starts it. Times are in seconds.
+ *
+ * The class knows one pulse, a double pulse, gating and a trigger delay. The instrument has no commands for these: the
+ * first two places of the train and the type of the trigger stand in for them. The correspondence is uneven, and
+ * callers rely on it as it is: the delay of the double pulse is the second width, and a new first width goes to the
+ * second delay while the double pulse is on.
+ *
+ * Whether the double pulse is on is remembered by the session. It begins off and changes with
+ * KVTD481X2C_ATTR_PULSE_DOUBLE_ENABLED alone: no reset, no count written elsewhere and no forgetting of values touches
+ * it.
+ * @{
+ */
+
+/** Number of pulses in the train. ViInt32, read and write. */
+#define KVTD481X2C_ATTR_PULSE_COUNT 1150084
+
+/** The instrument's error number for the pulse modulation. ViInt32, read. */
+#define KVTD481X2C_ATTR_PULSE_ERROR 1150086
+
+/** Frequency of the internal source of the pulse modulation. ViReal64, Hz, read and write. */
+#define KVTD481X2C_ATTR_PULSE_INTERNAL_FREQUENCY 1150087
+
+/** Period of the pulse train. ViReal64, s, read and write. */
+#define KVTD481X2C_ATTR_PULSE_INTERNAL_PERIOD 1150088
+
+/** How the pulse generator is triggered. ViInt32, enumeration TRIGGER_MODE, read and write. */
+#define KVTD481X2C_ATTR_PULSE_MODULATION_TRIGGER_MODE 1150090
+
+/**
+ * What drives the pulse modulation: the internal source or the external input. ViInt32, enumeration MODULATION_SOURCE,
+ * read and write.
+ */
+#define KVTD481X2C_ATTR_PULSE_MODULATION_SOURCE_EX 1150092
+
+/** Delay of the first pulse of the train. ViReal64, s, read and write. */
+#define KVTD481X2C_ATTR_PULSE_DELAY1 1150093
+
+/** Delay of the second pulse of the train. ViReal64, s, read and write. */
+#define KVTD481X2C_ATTR_PULSE_DELAY2 1150094
+
+/** Delay of the third pulse of the train. ViReal64, s, read and write. */
+#define KVTD481X2C_ATTR_PULSE_DELAY3 1150095
+
+/** Delay of the fourth pulse of the train. ViReal64, s, read and write. */
+#define KVTD481X2C_ATTR_PULSE_DELAY4 1150096
+
+/** Width of the first pulse of the train. ViReal64, s, read and write. */
+#define KVTD481X2C_ATTR_PULSE_WIDTH1 1150097
+
+/** Width of the second pulse of the train. ViReal64, s, read and write. */
+#define KVTD481X2C_ATTR_PULSE_WIDTH2 1150098
+
+/** Width of the third pulse of the train. ViReal64, s, read and write. */
+#define KVTD481X2C_ATTR_PULSE_WIDTH3 1150099
+
+/** Width of the fourth pulse of the train. ViReal64, s, read and write. */
+#define KVTD481X2C_ATTR_PULSE_WIDTH4 1150100
+
+/** Whether the pulse modulation is on. ViBoolean, read and write. */
+#define KVTD481X2C_ATTR_PULSE_MODULATION_ENABLED 1250051
+
+/**
+ * What drives the pulse modulation, in the terms of the class. ViInt32, enumeration PULSE_MODULATION_SOURCE, read and
+ * write.
+ */
+#define KVTD481X2C_ATTR_PULSE_MODULATION_SOURCE 1250052
+
+/**
+ * Polarity of the external input of the pulse modulation. ViInt32, enumeration PULSE_MODULATION_EXTERNAL_POLARITY, read
+ * and write.
+ */
+#define KVTD481X2C_ATTR_PULSE_MODULATION_EXTERNAL_POLARITY 1250053
+
+/** Period of the internal trigger of the pulse generator: the period of the train. ViReal64, s, read and write. */
+#define KVTD481X2C_ATTR_PULSE_INTERNAL_TRIGGER_PERIOD 1250121
+
+/** Width of the pulse: the first width of the train. ViReal64, s, read and write. */
+#define KVTD481X2C_ATTR_PULSE_WIDTH 1250122
+
+/** Whether the pulse generator is gated by the external input. ViBoolean, read and write. */
+#define KVTD481X2C_ATTR_PULSE_GATING_ENABLED 1250123
+
+/**
+ * Where the pulse generator's trigger comes from, in the terms of the class: always from outside. ViInt32, enumeration
+ * PULSE_TRIGGER_SOURCE, read and write.
+ */
+#define KVTD481X2C_ATTR_PULSE_TRIGGER_SOURCE 1250124
+
+/**
+ * Slope of the external signal that triggers the pulse generator. ViInt32, enumeration PULSE_EXTERNAL_TRIGGER_SLOPE,
+ * read and write.
+ */
+#define KVTD481X2C_ATTR_PULSE_EXTERNAL_TRIGGER_SLOPE 1250125
+
+/** Delay from the external trigger to the pulse: the first delay of the train. ViReal64, s, read and write. */
+#define KVTD481X2C_ATTR_PULSE_EXTERNAL_TRIGGER_DELAY 1250126
+
+/** Whether the double pulse is on. ViBoolean, read and write. */
+#define KVTD481X2C_ATTR_PULSE_DOUBLE_ENABLED 1250131
+
+/** Delay of the double pulse, which the second width of the train holds. ViReal64, s, read and write. */
+#define KVTD481X2C_ATTR_PULSE_DOUBLE_DELAY 1250132
+
+/** Polarity of the pulse output. ViInt32, enumeration PULSE_OUTPUT_POLARITY, read and write. */
+#define KVTD481X2C_ATTR_PULSE_OUTPUT_POLARITY 1250141
+
+/** Whether the pulse output is on, which on this instrument it always is. ViBoolean, read and write. */
+#define KVTD481X2C_ATTR_PULSE_OUTPUT_ENABLED 1250142
+
+/**
+ * Sets the trigger source, the width and the gating of the pulse generator.
+ *
+ * A failure leaves the steps before it in force.
+ *
+ * @param Vi             Handle from KVTD481X2C_InitWithOptions.
+ * @param TriggerSource  KVTD481X2C_VAL_PULSE_TRIGGER_SOURCE_EXTERNAL.
+ * @param Width          The width in seconds.
+ * @param Gating         Whether the generator is gated.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         0xBFFA0013  TriggerSource is any other value, the internal one included; nothing is sent
+ *         0xBFFA0059  the instrument's trigger type is no defined value
+ *         a VISA status when the exchange fails
+ *
+ * Sets KVTD481X2C_ATTR_PULSE_TRIGGER_SOURCE, KVTD481X2C_ATTR_PULSE_WIDTH, KVTD481X2C_ATTR_PULSE_GATING_ENABLED, in this
+ * order, up to the first failure.
+ * Simulated: stores the values in the attributes that they are passed on to; nothing is sent.
+ * @see KVTD481X2C_ATTR_PULSE_TRIGGER_SOURCE, KVTD481X2C_ATTR_PULSE_WIDTH, KVTD481X2C_ATTR_PULSE_GATING_ENABLED
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ConfigurePulse(ViSession Vi, ViInt32 TriggerSource, ViReal64 Width,
+                                                           ViBoolean Gating);
+
+/**
+ * Switches the double pulse on or off, and sets its delay.
+ *
+ * The delay is set either way. Switching on copies the first width to the second, which the delay then replaces, since
+ * the second width is where it is held. A failure leaves the steps before it in force.
+ *
+ * @param Vi       Handle from KVTD481X2C_InitWithOptions.
+ * @param Enabled  Anything but VI_FALSE switches the double pulse on.
+ * @param Delay    The delay in seconds.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sets KVTD481X2C_ATTR_PULSE_DOUBLE_ENABLED, KVTD481X2C_ATTR_PULSE_DOUBLE_DELAY, in this order, up to the first
+ * failure.
+ * Simulated: stores the values in the attributes that they are passed on to; nothing is sent.
+ * @see KVTD481X2C_ATTR_PULSE_DOUBLE_ENABLED, KVTD481X2C_ATTR_PULSE_DOUBLE_DELAY
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ConfigurePulseDouble(ViSession Vi, ViBoolean Enabled, ViReal64 Delay);
+
+/**
+ * Sets the slope of the external trigger of the pulse generator and the delay behind it.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Slope  A value of KVTD481X2C_ATTR_PULSE_EXTERNAL_TRIGGER_SLOPE.
+ * @param Delay  The delay in seconds.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         0xBFFA0000  Slope is no defined value; nothing is sent
+ *         a VISA status when the exchange fails
+ *
+ * Sets KVTD481X2C_ATTR_PULSE_EXTERNAL_TRIGGER_SLOPE, KVTD481X2C_ATTR_PULSE_EXTERNAL_TRIGGER_DELAY, in this order, up to
+ * the first failure.
+ * Simulated: fails with VISA's status: the slope makes its VISA call. The delay is not reached.
+ * @see KVTD481X2C_ATTR_PULSE_EXTERNAL_TRIGGER_SLOPE, KVTD481X2C_ATTR_PULSE_EXTERNAL_TRIGGER_DELAY
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ConfigurePulseExternalTrigger(ViSession Vi, ViInt32 Slope, ViReal64 Delay);
+
+/**
+ * Sets the period of the internal trigger of the pulse generator.
+ *
+ * @param Vi      Handle from KVTD481X2C_InitWithOptions.
+ * @param Period  The period in seconds.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sets KVTD481X2C_ATTR_PULSE_INTERNAL_TRIGGER_PERIOD.
+ * Simulated: stores the period; nothing is sent.
+ * @see KVTD481X2C_ATTR_PULSE_INTERNAL_TRIGGER_PERIOD
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ConfigurePulseInternalTrigger(ViSession Vi, ViReal64 Period);
+
+/**
+ * Switches the pulse modulation on or off.
+ *
+ * @param Vi       Handle from KVTD481X2C_InitWithOptions.
+ * @param Enabled  VI_TRUE switches it on, VI_FALSE off.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         0xBFFA0000  Enabled is neither VI_TRUE nor VI_FALSE; nothing is sent
+ *         a VISA status when the exchange fails
+ *
+ * Sets KVTD481X2C_ATTR_PULSE_MODULATION_ENABLED.
+ * Simulated: fails with VISA's status: the attribute makes its VISA call.
+ * @see KVTD481X2C_ATTR_PULSE_MODULATION_ENABLED
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ConfigurePulseModulationEnabled(ViSession Vi, ViBoolean Enabled);
+
+/**
+ * Sets the polarity of the external input of the pulse modulation.
+ *
+ * @param Vi        Handle from KVTD481X2C_InitWithOptions.
+ * @param Polarity  A value of KVTD481X2C_ATTR_PULSE_MODULATION_EXTERNAL_POLARITY.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         0xBFFA0000  Polarity is no defined value; nothing is sent
+ *         a VISA status when the exchange fails
+ *
+ * Sets KVTD481X2C_ATTR_PULSE_MODULATION_EXTERNAL_POLARITY.
+ * Simulated: fails with VISA's status: the attribute makes its VISA call.
+ * @see KVTD481X2C_ATTR_PULSE_MODULATION_EXTERNAL_POLARITY
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ConfigurePulseModulationExternalPolarity(ViSession Vi, ViInt32 Polarity);
+
+/**
+ * Sets the source of the pulse modulation.
+ *
+ * @param Vi      Handle from KVTD481X2C_InitWithOptions.
+ * @param Source  A value of KVTD481X2C_ATTR_PULSE_MODULATION_SOURCE.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         0xBFFA0013  Source is no defined value; nothing is sent
+ *         a VISA status when the exchange fails
+ *
+ * Sets KVTD481X2C_ATTR_PULSE_MODULATION_SOURCE.
+ * Simulated: stores the source; nothing is sent.
+ * @see KVTD481X2C_ATTR_PULSE_MODULATION_SOURCE
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ConfigurePulseModulationSource(ViSession Vi, ViInt32 Source);
+
+/**
+ * Sets the polarity of the pulse output, which itself is always on.
+ *
+ * The polarity is sent before the switch is judged, and stays if that fails.
+ *
+ * @param Vi        Handle from KVTD481X2C_InitWithOptions.
+ * @param Polarity  A value of KVTD481X2C_ATTR_PULSE_OUTPUT_POLARITY.
+ * @param Enabled   VI_TRUE.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         0xBFFA0000  Polarity is no defined value; nothing is sent
+ *         0xBFFA0013  Enabled is any value but VI_TRUE; the polarity is set
+ *         a VISA status when the exchange fails
+ *
+ * Sets KVTD481X2C_ATTR_PULSE_OUTPUT_POLARITY, KVTD481X2C_ATTR_PULSE_OUTPUT_ENABLED, in this order, up to the first
+ * failure.
+ * Simulated: fails with VISA's status: the polarity makes its VISA call.
+ * @see KVTD481X2C_ATTR_PULSE_OUTPUT_POLARITY, KVTD481X2C_ATTR_PULSE_OUTPUT_ENABLED
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ConfigurePulseOutput(ViSession Vi, ViInt32 Polarity, ViBoolean Enabled);
+
+/**
+ * Reads KVTD481X2C_ATTR_PULSE_COUNT: number of pulses in the train.
+ *
+ * KVTD481X2C_ATTR_PULSE_DOUBLE_ENABLED writes it and does not read it, so that a count written here leaves what that
+ * attribute says.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. After a failure: unchanged, but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:PULS:COUN?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.
+ * @see KVTD481X2C_SetPulseCount, KVTD481X2C_ATTR_PULSE_COUNT
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetPulseCount(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_PULSE_DELAY1: delay of the first pulse of the train.
+ *
+ * KVTD481X2C_ATTR_PULSE_EXTERNAL_TRIGGER_DELAY passes its value on to it.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. In s. After a failure: unchanged, but for 0xBFFA0001, which is found after the
+ *               reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViReal64 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:PULS:DEL1?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.0.
+ * @see KVTD481X2C_SetPulseDelay1, KVTD481X2C_ATTR_PULSE_DELAY1
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetPulseDelay1(ViSession Vi, ViReal64* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_PULSE_DELAY2: delay of the second pulse of the train.
+ *
+ * With the double pulse on, a new KVTD481X2C_ATTR_PULSE_WIDTH1 goes here as well.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. In s. After a failure: unchanged, but for 0xBFFA0001, which is found after the
+ *               reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViReal64 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:PULS:DEL2?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.0.
+ * @see KVTD481X2C_SetPulseDelay2, KVTD481X2C_ATTR_PULSE_DELAY2
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetPulseDelay2(ViSession Vi, ViReal64* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_PULSE_DELAY3: delay of the third pulse of the train.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. In s. After a failure: unchanged, but for 0xBFFA0001, which is found after the
+ *               reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViReal64 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:PULS:DEL3?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.0.
+ * @see KVTD481X2C_SetPulseDelay3, KVTD481X2C_ATTR_PULSE_DELAY3
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetPulseDelay3(ViSession Vi, ViReal64* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_PULSE_DELAY4: delay of the fourth pulse of the train.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. In s. After a failure: unchanged, but for 0xBFFA0001, which is found after the
+ *               reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViReal64 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:PULS:DEL4?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.0.
+ * @see KVTD481X2C_SetPulseDelay4, KVTD481X2C_ATTR_PULSE_DELAY4
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetPulseDelay4(ViSession Vi, ViReal64* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_PULSE_ERROR: the instrument's error number for the pulse modulation.
+ *
+ * A simulated session reads 1, where the other modulations read 0.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. After a failure: unchanged, but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:PULM:ERR?`.
+ * Simulated: nothing is sent; 1.
+ * @see KVTD481X2C_ATTR_PULSE_ERROR
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetPulseError(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_PULSE_INTERNAL_FREQUENCY: frequency of the internal source of the pulse modulation.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. In Hz. After a failure: unchanged, but for 0xBFFA0001, which is found after the
+ *               reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViReal64 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:PULM:FREQ?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.0.
+ * @see KVTD481X2C_SetPulseInternalFrequency, KVTD481X2C_ATTR_PULSE_INTERNAL_FREQUENCY
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetPulseInternalFrequency(ViSession Vi, ViReal64* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_PULSE_INTERNAL_PERIOD: period of the pulse train.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. In s. After a failure: unchanged, but for 0xBFFA0001, which is found after the
+ *               reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViReal64 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:PULS:PER?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.0.
+ * @see KVTD481X2C_SetPulseInternalPeriod, KVTD481X2C_ATTR_PULSE_INTERNAL_PERIOD
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetPulseInternalPeriod(ViSession Vi, ViReal64* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_PULSE_MODULATION_SOURCE_EX: what drives the pulse modulation: the internal source or the
+ * external input.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. KVTD481X2C_VAL_MODULATION_SOURCE_INTERNAL or
+ *               KVTD481X2C_VAL_MODULATION_SOURCE_EXTERNAL. After a failure: -1 with 0xBFFA0059, else unchanged, but for
+ *               0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0059  the answer is no word of a defined value
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:PULM:SOUR?`.
+ * Simulated: nothing is sent; the value last stored, before that KVTD481X2C_VAL_MODULATION_SOURCE_INTERNAL.
+ * @see KVTD481X2C_SetPulseModulationSourceEx, KVTD481X2C_ATTR_PULSE_MODULATION_SOURCE_EX
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetPulseModulationSourceEx(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_PULSE_MODULATION_TRIGGER_MODE: how the pulse generator is triggered.
+ *
+ * KVTD481X2C_ATTR_PULSE_GATING_ENABLED is a view of it.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. KVTD481X2C_VAL_TRIGGER_MODE_FREERUN, KVTD481X2C_VAL_TRIGGER_MODE_GATED,
+ *               KVTD481X2C_VAL_TRIGGER_MODE_DELAYED, KVTD481X2C_VAL_TRIGGER_MODE_TRIGGERED,
+ *               KVTD481X2C_VAL_TRIGGER_MODE_TRIGGER_DELAYED or KVTD481X2C_VAL_TRIGGER_MODE_COMPOSITE. After a failure:
+ *               -1 with 0xBFFA0059, else unchanged, but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0059  the answer is no word of a defined value
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:TRIG:SEQ3:TYPE?`.
+ * Simulated: nothing is sent; the value last stored, before that KVTD481X2C_VAL_TRIGGER_MODE_FREERUN.
+ * @see KVTD481X2C_SetPulseModulationTriggerMode, KVTD481X2C_ATTR_PULSE_MODULATION_TRIGGER_MODE
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetPulseModulationTriggerMode(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_PULSE_WIDTH1: width of the first pulse of the train.
+ *
+ * With the double pulse on, a good write in a real session is followed by a write of the same value to
+ * KVTD481X2C_ATTR_PULSE_DELAY2, whose status is then the result. The second width stays.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. In s. After a failure: unchanged, but for 0xBFFA0001, which is found after the
+ *               reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViReal64 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:PULS:WIDT1?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.0.
+ * @see KVTD481X2C_SetPulseWidth1, KVTD481X2C_ATTR_PULSE_WIDTH1
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetPulseWidth1(ViSession Vi, ViReal64* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_PULSE_WIDTH2: width of the second pulse of the train.
+ *
+ * KVTD481X2C_ATTR_PULSE_DOUBLE_DELAY passes its value on to it.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. In s. After a failure: unchanged, but for 0xBFFA0001, which is found after the
+ *               reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViReal64 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:PULS:WIDT2?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.0.
+ * @see KVTD481X2C_SetPulseWidth2, KVTD481X2C_ATTR_PULSE_WIDTH2
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetPulseWidth2(ViSession Vi, ViReal64* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_PULSE_WIDTH3: width of the third pulse of the train.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. In s. After a failure: unchanged, but for 0xBFFA0001, which is found after the
+ *               reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViReal64 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:PULS:WIDT3?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.0.
+ * @see KVTD481X2C_SetPulseWidth3, KVTD481X2C_ATTR_PULSE_WIDTH3
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetPulseWidth3(ViSession Vi, ViReal64* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_PULSE_WIDTH4: width of the fourth pulse of the train.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. In s. After a failure: unchanged, but for 0xBFFA0001, which is found after the
+ *               reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViReal64 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:PULS:WIDT4?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.0.
+ * @see KVTD481X2C_SetPulseWidth4, KVTD481X2C_ATTR_PULSE_WIDTH4
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetPulseWidth4(ViSession Vi, ViReal64* Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_PULSE_COUNT: number of pulses in the train.
+ *
+ * KVTD481X2C_ATTR_PULSE_DOUBLE_ENABLED writes it and does not read it, so that a count written here leaves what that
+ * attribute says.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:PULS:COUN <Value>`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetPulseCount, KVTD481X2C_ATTR_PULSE_COUNT
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPulseCount(ViSession Vi, ViInt32 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_PULSE_DELAY1: delay of the first pulse of the train.
+ *
+ * KVTD481X2C_ATTR_PULSE_EXTERNAL_TRIGGER_DELAY passes its value on to it.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. In s. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:PULS:DEL1 <Value>`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetPulseDelay1, KVTD481X2C_ATTR_PULSE_DELAY1
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPulseDelay1(ViSession Vi, ViReal64 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_PULSE_DELAY2: delay of the second pulse of the train.
+ *
+ * With the double pulse on, a new KVTD481X2C_ATTR_PULSE_WIDTH1 goes here as well.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. In s. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:PULS:DEL2 <Value>`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetPulseDelay2, KVTD481X2C_ATTR_PULSE_DELAY2
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPulseDelay2(ViSession Vi, ViReal64 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_PULSE_DELAY3: delay of the third pulse of the train.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. In s. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:PULS:DEL3 <Value>`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetPulseDelay3, KVTD481X2C_ATTR_PULSE_DELAY3
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPulseDelay3(ViSession Vi, ViReal64 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_PULSE_DELAY4: delay of the fourth pulse of the train.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. In s. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:PULS:DEL4 <Value>`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetPulseDelay4, KVTD481X2C_ATTR_PULSE_DELAY4
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPulseDelay4(ViSession Vi, ViReal64 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_PULSE_INTERNAL_FREQUENCY: frequency of the internal source of the pulse modulation.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. In Hz. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:PULM:FREQ <Value>`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetPulseInternalFrequency, KVTD481X2C_ATTR_PULSE_INTERNAL_FREQUENCY
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPulseInternalFrequency(ViSession Vi, ViReal64 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_PULSE_INTERNAL_PERIOD: period of the pulse train.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. In s. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:PULS:PER <Value>`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetPulseInternalPeriod, KVTD481X2C_ATTR_PULSE_INTERNAL_PERIOD
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPulseInternalPeriod(ViSession Vi, ViReal64 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_PULSE_MODULATION_SOURCE_EX: what drives the pulse modulation: the internal source or the
+ * external input.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. KVTD481X2C_VAL_MODULATION_SOURCE_INTERNAL or KVTD481X2C_VAL_MODULATION_SOURCE_EXTERNAL.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0000  Value is no defined value, or one without a word; nothing is sent
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:PULM:SOUR <Value>`.
+ * Simulated: nothing is converted or sent; the value is stored.
+ * @see KVTD481X2C_GetPulseModulationSourceEx, KVTD481X2C_ATTR_PULSE_MODULATION_SOURCE_EX
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPulseModulationSourceEx(ViSession Vi, ViInt32 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_PULSE_MODULATION_TRIGGER_MODE: how the pulse generator is triggered.
+ *
+ * KVTD481X2C_ATTR_PULSE_GATING_ENABLED is a view of it.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. KVTD481X2C_VAL_TRIGGER_MODE_FREERUN, KVTD481X2C_VAL_TRIGGER_MODE_GATED,
+ *               KVTD481X2C_VAL_TRIGGER_MODE_DELAYED, KVTD481X2C_VAL_TRIGGER_MODE_TRIGGERED,
+ *               KVTD481X2C_VAL_TRIGGER_MODE_TRIGGER_DELAYED or KVTD481X2C_VAL_TRIGGER_MODE_COMPOSITE.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0000  Value is no defined value, or one without a word; nothing is sent
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:TRIG:SEQ3:TYPE <Value>`.
+ * Simulated: nothing is converted or sent; the value is stored.
+ * @see KVTD481X2C_GetPulseModulationTriggerMode, KVTD481X2C_ATTR_PULSE_MODULATION_TRIGGER_MODE
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPulseModulationTriggerMode(ViSession Vi, ViInt32 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_PULSE_WIDTH1: width of the first pulse of the train.
+ *
+ * With the double pulse on, a good write in a real session is followed by a write of the same value to
+ * KVTD481X2C_ATTR_PULSE_DELAY2, whose status is then the result. The second width stays.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. In s. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:PULS:WIDT1 <Value>`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetPulseWidth1, KVTD481X2C_ATTR_PULSE_WIDTH1
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPulseWidth1(ViSession Vi, ViReal64 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_PULSE_WIDTH2: width of the second pulse of the train.
+ *
+ * KVTD481X2C_ATTR_PULSE_DOUBLE_DELAY passes its value on to it.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. In s. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:PULS:WIDT2 <Value>`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetPulseWidth2, KVTD481X2C_ATTR_PULSE_WIDTH2
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPulseWidth2(ViSession Vi, ViReal64 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_PULSE_WIDTH3: width of the third pulse of the train.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. In s. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:PULS:WIDT3 <Value>`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetPulseWidth3, KVTD481X2C_ATTR_PULSE_WIDTH3
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPulseWidth3(ViSession Vi, ViReal64 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_PULSE_WIDTH4: width of the fourth pulse of the train.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. In s. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:PULS:WIDT4 <Value>`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetPulseWidth4, KVTD481X2C_ATTR_PULSE_WIDTH4
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPulseWidth4(ViSession Vi, ViReal64 Value);
+
+/** @} */
+
+/**
+ * @defgroup reset_status Reset and status
+ *
+ * What brings the instrument to a known state, what asks after its health, and its status registers.
+ *
+ * Only KVTD481X2C_reset, KVTD481X2C_ResetWithDefaults and KVTD481X2C_InvalidateAllAttributes forget the values that the
+ * session remembers. After any other reset or preset a simulated session, or one switched to simulation later, still
+ * reads the values from before; a caller who minds calls KVTD481X2C_InvalidateAllAttributes.
+ *
+ * A query of a status register has no leading colon where it reads a condition or an event, nor has either direction of
+ * the questionable enable register. The instrument takes both forms, and they go out as they stand here.
+ * @{
+ */
+
+/** Condition register of the operation status: what holds at the moment. ViInt32, read. */
+#define KVTD481X2C_ATTR_OPERATION_CONDITION_REGISTER 1150003
+
+/** Enable register of the operation status: which events show in the status byte. ViInt32, read and write. */
+#define KVTD481X2C_ATTR_OPERATION_ENABLE_REGISTER 1150004
+
+/** Event register of the operation status: what has happened since it was last read. ViInt32, read. */
+#define KVTD481X2C_ATTR_OPERATION_EVENT_REGISTER 1150005
+
+/** Which conditions of the operation status become an event when they end. ViInt32, read and write. */
+#define KVTD481X2C_ATTR_OPERATION_NEGATIVE_TRANSITION_REGISTER 1150006
+
+/** Which conditions of the operation status become an event when they begin. ViInt32, read and write. */
+#define KVTD481X2C_ATTR_OPERATION_POSITIVE_TRANSITION_REGISTER 1150007
+
+/** Condition register of the questionable status: what holds at the moment. ViInt32, read. */
+#define KVTD481X2C_ATTR_QUESTIONABLE_CONDITION_REGISTER 1150008
+
+/** Enable register of the questionable status: which events show in the status byte. ViInt32, read and write. */
+#define KVTD481X2C_ATTR_QUESTIONABLE_ENABLE_REGISTER 1150009
+
+/** Event register of the questionable status: what has happened since it was last read. ViInt32, read. */
+#define KVTD481X2C_ATTR_QUESTIONABLE_EVENT_REGISTER 1150010
+
+/** Which conditions of the questionable status become an event when they end. ViInt32, read and write. */
+#define KVTD481X2C_ATTR_QUESTIONABLE_NEGATIVE_TRANSITION_REGISTER 1150011
+
+/** Which conditions of the questionable status become an event when they begin. ViInt32, read and write. */
+#define KVTD481X2C_ATTR_QUESTIONABLE_POSITIVE_TRANSITION_REGISTER 1150012
+
+/** Which standard events show in the status byte. ViInt32, read and write. */
+#define KVTD481X2C_ATTR_STANDARD_EVENT_ENABLE_REGISTER 1150013
+
+/** Standard event register: what has happened since it was last read. ViInt32, read. */
+#define KVTD481X2C_ATTR_STANDARD_EVENT_EVENT_REGISTER 1150014
+
+/** Which bits of the status byte request service. ViInt32, read and write. */
+#define KVTD481X2C_ATTR_STATUS_BYTE_ENABLE_REGISTER 1150015
+
+/** The status byte. ViInt32, read. */
+#define KVTD481X2C_ATTR_STATUS_BYTE_EVENT_REGISTER 1150016
+
+/**
+ * Clears the event registers and the error queue of the instrument.
+ *
+ * @param Vi  Handle from KVTD481X2C_InitWithOptions.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `*CLS`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ClearStatus(ViSession Vi);
+
+/**
+ * Returns the instrument to its factory state.
+ *
+ * The values that the session remembers stay.
+ *
+ * @param Vi  Handle from KVTD481X2C_InitWithOptions.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  never from this call: no status check follows it
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:SYST:DEF:RES:FACT`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_FactoryReset(ViSession Vi);
+
+/**
+ * Reads KVTD481X2C_ATTR_OPERATION_CONDITION_REGISTER: condition register of the operation status: what holds at the
+ * moment.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. After a failure: unchanged, but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `STAT:OPER:COND?`.
+ * Simulated: nothing is sent; 0.
+ * @see KVTD481X2C_ATTR_OPERATION_CONDITION_REGISTER
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetOperationConditionRegister(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_OPERATION_ENABLE_REGISTER: enable register of the operation status: which events show in the
+ * status byte.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. After a failure: unchanged, but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:STAT:OPER:ENAB?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.
+ * @see KVTD481X2C_SetOperationEnableRegister, KVTD481X2C_ATTR_OPERATION_ENABLE_REGISTER
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetOperationEnableRegister(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_OPERATION_EVENT_REGISTER: event register of the operation status: what has happened since it
+ * was last read.
+ *
+ * Reading an event register clears it on the instrument.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. After a failure: unchanged, but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `STAT:OPER:EVEN?`.
+ * Simulated: nothing is sent; 0.
+ * @see KVTD481X2C_ATTR_OPERATION_EVENT_REGISTER
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetOperationEventRegister(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_OPERATION_NEGATIVE_TRANSITION_REGISTER: which conditions of the operation status become an
+ * event when they end.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. After a failure: unchanged, but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:STAT:OPER:NTR?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.
+ * @see KVTD481X2C_SetOperationNegativeTransitionRegister, KVTD481X2C_ATTR_OPERATION_NEGATIVE_TRANSITION_REGISTER
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetOperationNegativeTransitionRegister(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_OPERATION_POSITIVE_TRANSITION_REGISTER: which conditions of the operation status become an
+ * event when they begin.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. After a failure: unchanged, but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:STAT:OPER:PTR?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.
+ * @see KVTD481X2C_SetOperationPositiveTransitionRegister, KVTD481X2C_ATTR_OPERATION_POSITIVE_TRANSITION_REGISTER
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetOperationPositiveTransitionRegister(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_QUESTIONABLE_CONDITION_REGISTER: condition register of the questionable status: what holds at
+ * the moment.
+ *
+ * A simulated session reports one condition standing: the register reads 8.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. After a failure: unchanged, but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `STAT:QUES:COND?`.
+ * Simulated: nothing is sent; 8.
+ * @see KVTD481X2C_ATTR_QUESTIONABLE_CONDITION_REGISTER
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetQuestionableConditionRegister(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_QUESTIONABLE_ENABLE_REGISTER: enable register of the questionable status: which events show in
+ * the status byte.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. After a failure: unchanged, but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `STAT:QUES:ENAB?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.
+ * @see KVTD481X2C_SetQuestionableEnableRegister, KVTD481X2C_ATTR_QUESTIONABLE_ENABLE_REGISTER
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetQuestionableEnableRegister(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_QUESTIONABLE_EVENT_REGISTER: event register of the questionable status: what has happened since
+ * it was last read.
+ *
+ * Reading an event register clears it on the instrument.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. After a failure: unchanged, but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `STAT:QUES:EVEN?`.
+ * Simulated: nothing is sent; 0.
+ * @see KVTD481X2C_ATTR_QUESTIONABLE_EVENT_REGISTER
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetQuestionableEventRegister(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_QUESTIONABLE_NEGATIVE_TRANSITION_REGISTER: which conditions of the questionable status become
+ * an event when they end.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. After a failure: unchanged, but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:STAT:QUES:NTR?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.
+ * @see KVTD481X2C_SetQuestionableNegativeTransitionRegister, KVTD481X2C_ATTR_QUESTIONABLE_NEGATIVE_TRANSITION_REGISTER
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetQuestionableNegativeTransitionRegister(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_QUESTIONABLE_POSITIVE_TRANSITION_REGISTER: which conditions of the questionable status become
+ * an event when they begin.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. After a failure: unchanged, but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:STAT:QUES:PTR?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.
+ * @see KVTD481X2C_SetQuestionablePositiveTransitionRegister, KVTD481X2C_ATTR_QUESTIONABLE_POSITIVE_TRANSITION_REGISTER
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetQuestionablePositiveTransitionRegister(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_STANDARD_EVENT_ENABLE_REGISTER: which standard events show in the status byte.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. After a failure: unchanged, but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `*ESE?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.
+ * @see KVTD481X2C_SetStandardEventEnableRegister, KVTD481X2C_ATTR_STANDARD_EVENT_ENABLE_REGISTER
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetStandardEventEnableRegister(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_STANDARD_EVENT_EVENT_REGISTER: standard event register: what has happened since it was last
+ * read.
+ *
+ * Reading it clears it on the instrument. The status check reads the same register: with
+ * KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS on, what came before is found by the check of the call that caused it, and is
+ * gone here.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. After a failure: unchanged, but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `*ESR?`.
+ * Simulated: nothing is sent; 0.
+ * @see KVTD481X2C_ATTR_STANDARD_EVENT_EVENT_REGISTER
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetStandardEventEventRegister(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_STATUS_BYTE_ENABLE_REGISTER: which bits of the status byte request service.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. After a failure: unchanged, but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `*SRE?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.
+ * @see KVTD481X2C_SetStatusByteEnableRegister, KVTD481X2C_ATTR_STATUS_BYTE_ENABLE_REGISTER
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetStatusByteEnableRegister(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_STATUS_BYTE_EVENT_REGISTER: the status byte.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. After a failure: unchanged, but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `*STB?`.
+ * Simulated: nothing is sent; 0.
+ * @see KVTD481X2C_ATTR_STATUS_BYTE_EVENT_REGISTER
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetStatusByteEventRegister(ViSession Vi, ViInt32* Value);
+
+/**
+ * Restarts the instrument.
+ *
+ * @param Vi  Handle from KVTD481X2C_InitWithOptions.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:SYST:REB`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_Reboot(ViSession Vi);
+
+/**
+ * Returns the whole instrument to its master reset state.
+ *
+ * The values that the session remembers stay.
+ *
+ * @param Vi  Handle from KVTD481X2C_InitWithOptions.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  never from this call: no status check follows it
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:SYST:DEF:RES:MAST`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ResetAll(ViSession Vi);
+
+/**
+ * Resets the data files of the user or of the system.
+ *
+ * The values that the session remembers stay.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Scope  KVTD481X2C_VAL_DATA_FILE_SCOPE_USER or ..._SYSTEM.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         0xBFFA0000  Scope is no defined value; nothing is sent
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:SYST:DEF:RES:DATA <Scope>`.
+ * Simulated: returns 0 and sends nothing, whatever the scope.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ResetSystemFiles(ViSession Vi, ViInt32 Scope);
+
+/**
+ * Resets the instrument as KVTD481X2C_reset does, and puts the session's six options back.
+ *
+ * The options become what they were when the session had been opened: cache, interchange check, query of the
+ * instrument's status, range check, recording of coercions and simulation. After a failed reset they stay.
+ *
+ * @param Vi  Handle from KVTD481X2C_InitWithOptions.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `*RST`, `*OPC?`.
+ * Simulated: forgets the values and puts the options back; nothing is sent.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ResetWithDefaults(ViSession Vi);
+
+/**
+ * Runs the instrument's extended self test.
+ *
+ * With KVTD481X2C_ATTR_SYSTEM_IO_TIMEOUT below 10000 ms the test runs with 10000 ms, which is put back behind the
+ * status check. The status is then that of putting it back, so that a refusal does not show. When the exchange fails,
+ * the timeout stays at 10000 ms.
+ *
+ * @param Vi             Handle from KVTD481X2C_InitWithOptions.
+ * @param ValBufferSize  Size of Val, terminator included; at least 1, not tested.
+ * @param Val            The instrument's report, cut to the size. After a failure: unchanged, or what had arrived.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         0xBFFA0058  Val is null, also in a simulated session
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:TEST:SELF?`.
+ * Simulated: returns 0 and leaves Val as it was; nothing is sent.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SelfTest(ViSession Vi, ViInt32 ValBufferSize, ViChar Val[]);
+
+/**
+ * Has the instrument set the operation-complete bit when all pending work is done.
+ *
+ * @param Vi  Handle from KVTD481X2C_InitWithOptions.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `*OPC`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetOperationComplete(ViSession Vi);
+
+/**
+ * Writes KVTD481X2C_ATTR_OPERATION_ENABLE_REGISTER: enable register of the operation status: which events show in the
+ * status byte.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:STAT:OPER:ENAB <Value>`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetOperationEnableRegister, KVTD481X2C_ATTR_OPERATION_ENABLE_REGISTER
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetOperationEnableRegister(ViSession Vi, ViInt32 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_OPERATION_NEGATIVE_TRANSITION_REGISTER: which conditions of the operation status become an
+ * event when they end.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:STAT:OPER:NTR <Value>`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetOperationNegativeTransitionRegister, KVTD481X2C_ATTR_OPERATION_NEGATIVE_TRANSITION_REGISTER
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetOperationNegativeTransitionRegister(ViSession Vi, ViInt32 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_OPERATION_POSITIVE_TRANSITION_REGISTER: which conditions of the operation status become an
+ * event when they begin.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:STAT:OPER:PTR <Value>`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetOperationPositiveTransitionRegister, KVTD481X2C_ATTR_OPERATION_POSITIVE_TRANSITION_REGISTER
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetOperationPositiveTransitionRegister(ViSession Vi, ViInt32 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_QUESTIONABLE_ENABLE_REGISTER: enable register of the questionable status: which events show in
+ * the status byte.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `STAT:QUES:ENAB <Value>`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetQuestionableEnableRegister, KVTD481X2C_ATTR_QUESTIONABLE_ENABLE_REGISTER
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetQuestionableEnableRegister(ViSession Vi, ViInt32 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_QUESTIONABLE_NEGATIVE_TRANSITION_REGISTER: which conditions of the questionable status become
+ * an event when they end.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:STAT:QUES:NTR <Value>`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetQuestionableNegativeTransitionRegister, KVTD481X2C_ATTR_QUESTIONABLE_NEGATIVE_TRANSITION_REGISTER
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetQuestionableNegativeTransitionRegister(ViSession Vi, ViInt32 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_QUESTIONABLE_POSITIVE_TRANSITION_REGISTER: which conditions of the questionable status become
+ * an event when they begin.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:STAT:QUES:PTR <Value>`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetQuestionablePositiveTransitionRegister, KVTD481X2C_ATTR_QUESTIONABLE_POSITIVE_TRANSITION_REGISTER
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetQuestionablePositiveTransitionRegister(ViSession Vi, ViInt32 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_STANDARD_EVENT_ENABLE_REGISTER: which standard events show in the status byte.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `*ESE <Value>`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetStandardEventEnableRegister, KVTD481X2C_ATTR_STANDARD_EVENT_ENABLE_REGISTER
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetStandardEventEnableRegister(ViSession Vi, ViInt32 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_STATUS_BYTE_ENABLE_REGISTER: which bits of the status byte request service.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `*SRE <Value>`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetStatusByteEnableRegister, KVTD481X2C_ATTR_STATUS_BYTE_ENABLE_REGISTER
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetStatusByteEnableRegister(ViSession Vi, ViInt32 Value);
+
+/**
+ * Shuts the instrument down.
+ *
+ * @param Vi  Handle from KVTD481X2C_InitWithOptions.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  never from this call: no status check follows it
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:SYST:SHUT`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_Shutdown(ViSession Vi);
+
+/**
+ * Presets the enable and transition registers of the status.
+ *
+ * @param Vi  Handle from KVTD481X2C_InitWithOptions.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:STAT:PRES`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_StatusPreset(ViSession Vi);
+
+/**
+ * Presets the instrument.
+ *
+ * A preset takes longer than a common command: with KVTD481X2C_ATTR_SYSTEM_IO_TIMEOUT below 10000 ms it runs with 10000
+ * ms, which is put back behind the status check. The status is then that of putting it back, so that a refusal of the
+ * preset does not show. When the command cannot be sent, the timeout stays at 10000 ms. The values that the session
+ * remembers stay.
+ *
+ * @param Vi  Handle from KVTD481X2C_InitWithOptions.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:SYST:PRES`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SystemPreset(ViSession Vi);
+
+/**
+ * Waits until the instrument has finished all pending work.
+ *
+ * One query, which waits no longer than KVTD481X2C_ATTR_SYSTEM_IO_TIMEOUT.
+ *
+ * @param Vi  Handle from KVTD481X2C_InitWithOptions.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         0xBFFA0059  the answer is not 1; no status check follows
+ *         a VISA status when the exchange fails
+ *
+ * Queries `*OPC?`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_WaitForOperationComplete(ViSession Vi);
+
+/**
+ * Has the instrument finish all pending work before the next command.
+ *
+ * The call itself does not wait.
+ *
+ * @param Vi  Handle from KVTD481X2C_InitWithOptions.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `*WAI`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_WaitToContinue(ViSession Vi);
+
+/**
+ * Resets the instrument and forgets the values that the session remembers.
+ *
+ * The reset runs under a timeout of 2000 ms, which is put back on every path. It is over when the instrument answers
+ * the query behind it; the answer itself is not looked at. After a failure the values are kept.
+ *
+ * @param Vi  Handle from KVTD481X2C_InitWithOptions.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `*RST`. Queries `*OPC?`.
+ * Simulated: forgets the values; nothing is sent.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_reset(ViSession Vi);
+
+/**
+ * Runs the instrument's self test.
+ *
+ * A test that fails is no failure of the call: the result and the message tell it. The test runs under a timeout of
+ * 2000 ms, which is put back on every path.
+ *
+ * @param Vi           Handle from KVTD481X2C_InitWithOptions.
+ * @param TestResult   0 for a passed test, else the instrument's number.
+ * @param TestMessage  "Selftest passed" or "Selftest failed". A buffer of 256 characters; not written after a failure.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  one of TestResult, TestMessage is null
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `*TST?`.
+ * Simulated: gives 0 and "Selftest passed"; nothing is sent.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_self_test(ViSession Vi, ViInt16* TestResult, ViChar TestMessage[256]);
 
 /** @} */
 
@@ -2822,8 +6064,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ClearInterchangeWarnings(ViSession V
  *
  * @param Vi              Handle from KVTD481X2C_InitWithOptions.
  * @param BufferSize      Size of CoercionRecord in characters, terminator included.
- * @param CoercionRecord  The record: an empty text. May be null if BufferSize is 0. After a failure: unchanged, or what
- *                        had arrived.
+ * @param CoercionRecord  The record: an empty text. May be null if BufferSize is 0. After a failure: unchanged.
  * @return VI_SUCCESS or a negative status:
  *         0xBFFA1190  Vi is not an open handle (no text is recorded)
  *         0xBFFA0058  CoercionRecord is null and BufferSize is not 0
@@ -2838,7 +6079,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetNextCoercionRecord(ViSession Vi, 
  *
  * @param Vi                  Handle from KVTD481X2C_InitWithOptions.
  * @param BufferSize          Not looked at.
- * @param InterchangeWarning  Not looked at and not written. After a failure: unchanged, or what had arrived.
+ * @param InterchangeWarning  Not looked at and not written. After a failure: unchanged.
  * @return VI_SUCCESS or a negative status:
  *         0xBFFA1190  Vi is not an open handle (no text is recorded)
  *         0xBFFA0011  always
@@ -2863,8 +6104,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetNextInterchangeWarning(ViSession 
  * @param IdQuery       VI_TRUE refuses an unknown model; other values do not test it.
  * @param Reset         Anything but VI_FALSE resets the instrument.
  * @param OptionString  The options, or an empty text. Not null.
- * @param Vi            The handle of the new session, or 0 where nothing was opened. After a failure: unchanged, or
- *                      what had arrived.
+ * @param Vi            The handle of the new session, or 0 where nothing was opened.
  * @return VI_SUCCESS or a negative status:
  *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
  *         0xBFFA0058  Vi is null; nothing is recorded
@@ -2875,7 +6115,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetNextInterchangeWarning(ViSession 
  *         a status of the configuration store when it cannot be read
  *         a VISA status when the exchange fails
  *
- * Sends `*CLS`. Sends `*IDN?`. Sends `*RST`. Sends `*OPC?`. Sends `:UNIT:POW DBM`. Sends `:UNIT:TIME S`.
+ * Sends `*CLS`, `*IDN?`, `*RST`, `*OPC?`, `:UNIT:POW DBM`, `:UNIT:TIME S`.
  * Simulated: reads the configuration store and the options, and sends nothing.
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_InitWithOptions(ViRsrc ResourceName, ViBoolean IdQuery, ViBoolean Reset,
@@ -2902,8 +6142,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_InvalidateAllAttributes(ViSession Vi
  * VI_TRUE on entry does nothing, and VI_FALSE takes the lock and becomes VI_TRUE.
  *
  * @param Vi             Handle from KVTD481X2C_InitWithOptions.
- * @param CallerHasLock  Whether the caller holds the lock. May be null. After a failure: unchanged, or what had
- *                       arrived.
+ * @param CallerHasLock  Whether the caller holds the lock. May be null. After a failure: unchanged.
  * @return VI_SUCCESS or a negative status:
  *         0xBFFA1190  Vi is not an open handle (no text is recorded)
  *
@@ -2929,8 +6168,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ResetInterchangeCheck(ViSession Vi);
  * With a pointer, VI_FALSE on entry does nothing, and VI_TRUE gives the lock back and becomes VI_FALSE.
  *
  * @param Vi             Handle from KVTD481X2C_InitWithOptions.
- * @param CallerHasLock  Whether the caller holds the lock. May be null. After a failure: unchanged, or what had
- *                       arrived.
+ * @param CallerHasLock  Whether the caller holds the lock. May be null. After a failure: unchanged.
  * @return VI_SUCCESS or a negative status:
  *         0xBFFA1190  Vi is not an open handle (no text is recorded)
  *
@@ -2958,8 +6196,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_close(ViSession Vi);
  * @param ResourceName  A VISA resource or a logical name. Not null.
  * @param IdQuery       VI_TRUE refuses an unknown model; other values do not test it.
  * @param Reset         Anything but VI_FALSE resets the instrument.
- * @param Vi            The handle of the new session; see KVTD481X2C_InitWithOptions. After a failure: unchanged, or
- *                      what had arrived.
+ * @param Vi            The handle of the new session; see KVTD481X2C_InitWithOptions. After a failure: unchanged.
  * @return VI_SUCCESS or a negative status:
  *         as KVTD481X2C_InitWithOptions
  *
@@ -2974,9 +6211,8 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_init(ViRsrc ResourceName, ViBoolean 
  * Both were known when the session was opened; nothing is sent. Neither pointer is tested.
  *
  * @param Vi         Handle from KVTD481X2C_InitWithOptions.
- * @param DriverRev  "1.0.0.0". A buffer of 256 characters, not null. After a failure: unchanged, or what had arrived.
- * @param InstrRev   The firmware's. A buffer of 256 characters, not null. After a failure: unchanged, or what had
- *                   arrived.
+ * @param DriverRev  "1.0.0.0". A buffer of 256 characters, not null. After a failure: unchanged.
+ * @param InstrRev   The firmware's. A buffer of 256 characters, not null. After a failure: unchanged.
  * @return VI_SUCCESS or a negative status:
  *         0xBFFA1190  Vi is not an open handle (no text is recorded)
  *
@@ -3006,7 +6242,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_revision_query(ViSession Vi, ViChar 
  * signed number for the second half of every 49.7 days; a mark left then answers VI_FALSE.
  *
  * @param Vi    Handle from KVTD481X2C_InitWithOptions.
- * @param Done  VI_TRUE if settled. After a failure: unchanged, or what had arrived.
+ * @param Done  VI_TRUE if settled. After a failure: unchanged.
  * @return VI_SUCCESS or a negative status:
  *         0xBFFA1190  Vi is not an open handle (no text is recorded)
  *         0xBFFA0058  Done is null
@@ -3028,6 +6264,1199 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_IsSettled(ViSession Vi, ViBoolean* D
  * Simulated: the same.
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_WaitUntilSettled(ViSession Vi, ViInt32 MaxTimeMilliseconds);
+
+/** @} */
+
+/**
+ * @defgroup sweep Sweep
+ *
+ * Sweeps of frequency and of power, in steps or continuous, and the class's view of them.
+ *
+ * The class knows one sweep mode and one sweep trigger source. The instrument has neither: it has a frequency mode, a
+ * power mode, a sweep generation and a trigger type. KVTD481X2C_ATTR_SWEEP_MODE and
+ * KVTD481X2C_ATTR_SWEEP_TRIGGER_SOURCE translate, and not every state of the instrument has a name in the class.
+ *
+ * Frequency sweep and frequency step are the same sweep of the instrument, so their limits are one setting under two
+ * ids. The three single-step switches, for frequency, power and list, are one state too: the trigger type. Times and
+ * levels are sent as plain numbers, in seconds and dBm.
+ * @{
+ */
+
+/** Center of the swept range. ViReal64, Hz, read and write. */
+#define KVTD481X2C_ATTR_FREQUENCY_SWEEP_CENTER_FREQUENCY 1150034
+
+/** Width of the ranges that are given as a preset frequency and a difference. ViReal64, Hz, read and write. */
+#define KVTD481X2C_ATTR_FREQUENCY_SWEEP_DELTA 1150035
+
+/** Whether the frequency sweep runs up or down. ViInt32, enumeration SWEEP_DIRECTION, read and write. */
+#define KVTD481X2C_ATTR_FREQUENCY_SWEEP_DIRECTION 1150036
+
+/** Whether the instrument chooses how long the frequency sweep stays at each point. ViBoolean, read. */
+#define KVTD481X2C_ATTR_FREQUENCY_SWEEP_DWELL_AUTO 1150038
+
+/**
+ * Whether the frequency sweep is continuous or goes in steps. ViInt32, enumeration SWEEP_GENERATION, read and write.
+ */
+#define KVTD481X2C_ATTR_FREQUENCY_SWEEP_GENERATION 1150039
+
+/** Number of points of the stepped frequency sweep. ViInt32, read and write. */
+#define KVTD481X2C_ATTR_FREQUENCY_SWEEP_POINTS 1150040
+
+/**
+ * Takes the swept range from two preset frequencies, or from one and the difference. ViInt32, enumeration
+ * FREQUENCY_RANGE, write.
+ */
+#define KVTD481X2C_ATTR_FREQUENCY_SWEEP_RANGE 1150041
+
+/**
+ * Whether the points of the frequency sweep lie at equal differences or at equal ratios. ViInt32, enumeration
+ * SWEEP_SPACING, read and write.
+ */
+#define KVTD481X2C_ATTR_FREQUENCY_SWEEP_SPACING 1150042
+
+/** Width of the swept range. ViReal64, Hz, read and write. */
+#define KVTD481X2C_ATTR_FREQUENCY_SWEEP_SPAN 1150043
+
+/** Whether the instrument chooses the duration of the frequency sweep. ViBoolean, read. */
+#define KVTD481X2C_ATTR_FREQUENCY_SWEEP_TIME_AUTO 1150048
+
+/** Shortest duration that a frequency sweep may have. ViReal64, s, read and write. */
+#define KVTD481X2C_ATTR_FREQUENCY_SWEEP_TIME_LOWER_LIMIT 1150049
+
+/** Center of the swept levels. ViReal64, dBm, read and write. */
+#define KVTD481X2C_ATTR_POWER_SWEEP_CENTER_POWER 1150124
+
+/** Whether the power sweep runs up or down. ViInt32, enumeration SWEEP_DIRECTION, read and write. */
+#define KVTD481X2C_ATTR_POWER_SWEEP_DIRECTION 1150125
+
+/** Whether the instrument chooses how long the power sweep stays at each point. ViBoolean, read. */
+#define KVTD481X2C_ATTR_POWER_SWEEP_DWELL_AUTO 1150127
+
+/** Number of points of the power sweep. ViInt32, read and write. */
+#define KVTD481X2C_ATTR_POWER_SWEEP_POINTS 1150129
+
+/** Takes the swept levels from two preset power levels. ViInt32, enumeration POWER_SWEEP_RANGE, write. */
+#define KVTD481X2C_ATTR_POWER_SWEEP_RANGE 1150130
+
+/** Distance between the lowest and the highest of the swept levels. ViReal64, dB, read and write. */
+#define KVTD481X2C_ATTR_POWER_SWEEP_SPAN 1150131
+
+/** Whether the instrument chooses the duration of the power sweep. ViBoolean, read. */
+#define KVTD481X2C_ATTR_POWER_SWEEP_TIME_AUTO 1150135
+
+/** Shortest duration that a power sweep may have. ViReal64, s, read and write. */
+#define KVTD481X2C_ATTR_POWER_SWEEP_TIME_LOWER_LIMIT 1150136
+
+/** What is swept, in the terms of the class. ViInt32, enumeration SWEEP_MODE, read and write. */
+#define KVTD481X2C_ATTR_SWEEP_MODE 1250201
+
+/** What starts a sweep, in the terms of the class. ViInt32, enumeration SWEEP_TRIGGER_SOURCE, read and write. */
+#define KVTD481X2C_ATTR_SWEEP_TRIGGER_SOURCE 1250202
+
+/** Frequency at which the sweep begins. ViReal64, Hz, read and write. */
+#define KVTD481X2C_ATTR_FREQUENCY_SWEEP_START 1250211
+
+/** Frequency at which the sweep ends. ViReal64, Hz, read and write. */
+#define KVTD481X2C_ATTR_FREQUENCY_SWEEP_STOP 1250212
+
+/** Duration of one frequency sweep. ViReal64, s, read and write. */
+#define KVTD481X2C_ATTR_FREQUENCY_SWEEP_TIME 1250213
+
+/** Frequency at which the stepped sweep begins. ViReal64, Hz, read and write. */
+#define KVTD481X2C_ATTR_FREQUENCY_STEP_START 1250241
+
+/** Frequency at which the stepped sweep ends. ViReal64, Hz, read and write. */
+#define KVTD481X2C_ATTR_FREQUENCY_STEP_STOP 1250242
+
+/**
+ * Spacing of the frequency steps, linear (0) or logarithmic (1). ViInt32, enumeration SWEEP_SPACING, read and write.
+ */
+#define KVTD481X2C_ATTR_FREQUENCY_STEP_SCALING 1250243
+
+/** Distance between two points of the stepped frequency sweep. ViReal64, Hz, read and write. */
+#define KVTD481X2C_ATTR_FREQUENCY_STEP_SIZE 1250244
+
+/** Whether each trigger advances the frequency by one step. ViBoolean, read and write. */
+#define KVTD481X2C_ATTR_FREQUENCY_STEP_SINGLE_STEP_ENABLED 1250245
+
+/** How long the stepped frequency sweep stays at each point. ViReal64, s, read and write. */
+#define KVTD481X2C_ATTR_FREQUENCY_STEP_DWELL 1250246
+
+/** Level at which the power sweep begins. ViReal64, dBm, read and write. */
+#define KVTD481X2C_ATTR_POWER_STEP_START 1250261
+
+/** Level at which the power sweep ends. ViReal64, dBm, read and write. */
+#define KVTD481X2C_ATTR_POWER_STEP_STOP 1250262
+
+/** Distance between two points of the power sweep. ViReal64, dB, read and write. */
+#define KVTD481X2C_ATTR_POWER_STEP_SIZE 1250263
+
+/** Whether each trigger advances the level by one step. ViBoolean, read and write. */
+#define KVTD481X2C_ATTR_POWER_STEP_SINGLE_STEP_ENABLED 1250264
+
+/** How long the power sweep stays at each point. ViReal64, s, read and write. */
+#define KVTD481X2C_ATTR_POWER_STEP_DWELL 1250265
+
+/**
+ * Sets whether frequency steps wait for a trigger, and how long each lasts.
+ *
+ * @param Vi                 Handle from KVTD481X2C_InitWithOptions.
+ * @param SingleStepEnabled  VI_TRUE to advance by one step at each trigger.
+ * @param Dwell              The time at each point in seconds.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sets KVTD481X2C_ATTR_FREQUENCY_STEP_SINGLE_STEP_ENABLED, KVTD481X2C_ATTR_FREQUENCY_STEP_DWELL, in this order, up to
+ * the first failure.
+ * Simulated: sets the stored trigger type, and then fails with VISA's status: the dwell time makes its VISA call.
+ * @see KVTD481X2C_ATTR_FREQUENCY_STEP_SINGLE_STEP_ENABLED, KVTD481X2C_ATTR_FREQUENCY_STEP_DWELL
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ConfigureFrequencyStepDwell(ViSession Vi, ViBoolean SingleStepEnabled,
+                                                                        ViReal64 Dwell);
+
+/**
+ * Sets limits, spacing and distance of the frequency steps.
+ *
+ * @param Vi        Handle from KVTD481X2C_InitWithOptions.
+ * @param Start     The first frequency in hertz.
+ * @param Stop      The last frequency in hertz.
+ * @param Scaling   0 linear, 1 logarithmic; anything else leaves the spacing alone.
+ * @param StepSize  The distance between two points in hertz.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sets KVTD481X2C_ATTR_FREQUENCY_STEP_START, KVTD481X2C_ATTR_FREQUENCY_STEP_STOP,
+ * KVTD481X2C_ATTR_FREQUENCY_STEP_SCALING, KVTD481X2C_ATTR_FREQUENCY_STEP_SIZE, in this order, up to the first failure.
+ * Simulated: fails with VISA's status: the start makes its VISA call.
+ * @see KVTD481X2C_ATTR_FREQUENCY_STEP_START, KVTD481X2C_ATTR_FREQUENCY_STEP_STOP,
+ *      KVTD481X2C_ATTR_FREQUENCY_STEP_SCALING, KVTD481X2C_ATTR_FREQUENCY_STEP_SIZE
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ConfigureFrequencyStepStartStop(ViSession Vi, ViReal64 Start, ViReal64 Stop,
+                                                                            ViInt32 Scaling, ViReal64 StepSize);
+
+/**
+ * Sets the limits of the frequency sweep from center and span.
+ *
+ * Start and stop are computed here, half the span to either side, and sent as
+ * KVTD481X2C_ConfigureFrequencySweepStartStop does. The instrument's own center and span attributes are not used, and a
+ * limit out of its range is the instrument's to refuse.
+ *
+ * @param Vi      Handle from KVTD481X2C_InitWithOptions.
+ * @param Center  The middle of the range in hertz.
+ * @param Span    The width of the range in hertz.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sets KVTD481X2C_ATTR_FREQUENCY_SWEEP_START, KVTD481X2C_ATTR_FREQUENCY_SWEEP_STOP, in this order, up to the first
+ * failure.
+ * Simulated: fails with VISA's status: the attributes make their VISA call.
+ * @see KVTD481X2C_ATTR_FREQUENCY_SWEEP_START, KVTD481X2C_ATTR_FREQUENCY_SWEEP_STOP
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ConfigureFrequencySweepCenterSpan(ViSession Vi, ViReal64 Center,
+                                                                              ViReal64 Span);
+
+/**
+ * Sets the limits of the frequency sweep.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Start  The first frequency in hertz.
+ * @param Stop   The last frequency in hertz.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sets KVTD481X2C_ATTR_FREQUENCY_SWEEP_START, KVTD481X2C_ATTR_FREQUENCY_SWEEP_STOP, in this order, up to the first
+ * failure.
+ * Simulated: fails with VISA's status: the attributes make their VISA call.
+ * @see KVTD481X2C_ATTR_FREQUENCY_SWEEP_START, KVTD481X2C_ATTR_FREQUENCY_SWEEP_STOP
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ConfigureFrequencySweepStartStop(ViSession Vi, ViReal64 Start,
+                                                                             ViReal64 Stop);
+
+/**
+ * Sets the duration of one frequency sweep.
+ *
+ * @param Vi    Handle from KVTD481X2C_InitWithOptions.
+ * @param Time  The duration in seconds.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sets KVTD481X2C_ATTR_FREQUENCY_SWEEP_TIME.
+ * Simulated: fails with VISA's status: the attribute makes its VISA call.
+ * @see KVTD481X2C_ATTR_FREQUENCY_SWEEP_TIME
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ConfigureFrequencySweepTime(ViSession Vi, ViReal64 Time);
+
+/**
+ * Sets whether power steps wait for a trigger, and how long each lasts.
+ *
+ * @param Vi                 Handle from KVTD481X2C_InitWithOptions.
+ * @param SingleStepEnabled  VI_TRUE to advance by one step at each trigger.
+ * @param Dwell              The time at each point in seconds.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sets KVTD481X2C_ATTR_POWER_STEP_SINGLE_STEP_ENABLED, KVTD481X2C_ATTR_POWER_STEP_DWELL, in this order, up to the first
+ * failure.
+ * Simulated: sets the stored trigger type, and then fails with VISA's status: the dwell time makes its VISA call.
+ * @see KVTD481X2C_ATTR_POWER_STEP_SINGLE_STEP_ENABLED, KVTD481X2C_ATTR_POWER_STEP_DWELL
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ConfigurePowerStepDwell(ViSession Vi, ViBoolean SingleStepEnabled,
+                                                                    ViReal64 Dwell);
+
+/**
+ * Sets limits and distance of the power steps.
+ *
+ * @param Vi        Handle from KVTD481X2C_InitWithOptions.
+ * @param Start     The first level in dBm.
+ * @param Stop      The last level in dBm.
+ * @param StepSize  The distance between two points in dB.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sets KVTD481X2C_ATTR_POWER_STEP_START, KVTD481X2C_ATTR_POWER_STEP_STOP, KVTD481X2C_ATTR_POWER_STEP_SIZE, in this
+ * order, up to the first failure.
+ * Simulated: fails with VISA's status: the attributes make their VISA call.
+ * @see KVTD481X2C_ATTR_POWER_STEP_START, KVTD481X2C_ATTR_POWER_STEP_STOP, KVTD481X2C_ATTR_POWER_STEP_SIZE
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ConfigurePowerStepStartStop(ViSession Vi, ViReal64 Start, ViReal64 Stop,
+                                                                        ViReal64 StepSize);
+
+/**
+ * Sets what is swept and what starts the sweep.
+ *
+ * @param Vi             Handle from KVTD481X2C_InitWithOptions.
+ * @param Mode           A value of KVTD481X2C_ATTR_SWEEP_MODE.
+ * @param TriggerSource  A value of KVTD481X2C_ATTR_SWEEP_TRIGGER_SOURCE.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         0xBFFA0013  the mode is power sweep, or the mode or the source is not known
+ *         a VISA status when the exchange fails
+ *
+ * Sets KVTD481X2C_ATTR_SWEEP_MODE, KVTD481X2C_ATTR_SWEEP_TRIGGER_SOURCE, in this order, up to the first failure.
+ * Simulated: sets the stored modes and the stored trigger type; nothing is sent.
+ * @see KVTD481X2C_ATTR_SWEEP_MODE, KVTD481X2C_ATTR_SWEEP_TRIGGER_SOURCE
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ConfigureSweep(ViSession Vi, ViInt32 Mode, ViInt32 TriggerSource);
+
+/**
+ * Reads KVTD481X2C_ATTR_FREQUENCY_SWEEP_CENTER_FREQUENCY: center of the swept range.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. In Hz. After a failure: unchanged, but for 0xBFFA0001, which is found after the
+ *               reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViReal64 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:FREQ:CENT?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.0.
+ * @see KVTD481X2C_SetFrequencySweepCenterFrequency, KVTD481X2C_ATTR_FREQUENCY_SWEEP_CENTER_FREQUENCY
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetFrequencySweepCenterFrequency(ViSession Vi, ViReal64* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_FREQUENCY_SWEEP_DELTA: width of the ranges that are given as a preset frequency and a
+ * difference.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. In Hz. After a failure: unchanged, but for 0xBFFA0001, which is found after the
+ *               reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViReal64 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:FREQ:DELT?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.0.
+ * @see KVTD481X2C_SetFrequencySweepDelta, KVTD481X2C_ATTR_FREQUENCY_SWEEP_DELTA
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetFrequencySweepDelta(ViSession Vi, ViReal64* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_FREQUENCY_SWEEP_DIRECTION: whether the frequency sweep runs up or down.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. KVTD481X2C_VAL_SWEEP_DIRECTION_UP or KVTD481X2C_VAL_SWEEP_DIRECTION_DOWN. After a
+ *               failure: -1 with 0xBFFA0059, else unchanged, but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0059  the answer is no word of a defined value
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SWE1:DIR?`.
+ * Simulated: nothing is sent; the value last stored, before that KVTD481X2C_VAL_SWEEP_DIRECTION_UP.
+ * @see KVTD481X2C_SetFrequencySweepDirection, KVTD481X2C_ATTR_FREQUENCY_SWEEP_DIRECTION
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetFrequencySweepDirection(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_FREQUENCY_SWEEP_DWELL_AUTO: whether the instrument chooses how long the frequency sweep stays
+ * at each point.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. VI_TRUE or VI_FALSE. After a failure: 0xFFFF with 0xBFFA0059, else unchanged, but
+ *               for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViBoolean and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0059  the answer is no word of a defined value
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SWE1:DWEL:AUTO?`.
+ * Simulated: nothing is sent; VI_FALSE.
+ * @see KVTD481X2C_ATTR_FREQUENCY_SWEEP_DWELL_AUTO
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetFrequencySweepDwellAuto(ViSession Vi, ViBoolean* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_FREQUENCY_SWEEP_GENERATION: whether the frequency sweep is continuous or goes in steps.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. KVTD481X2C_VAL_SWEEP_GENERATION_ANALOG or KVTD481X2C_VAL_SWEEP_GENERATION_STEPPED.
+ *               After a failure: -1 with 0xBFFA0059, else unchanged, but for 0xBFFA0001, which is found after the
+ *               reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0059  the answer is no word of a defined value
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SWE1:GEN?`.
+ * Simulated: nothing is sent; the value last stored, before that KVTD481X2C_VAL_SWEEP_GENERATION_ANALOG.
+ * @see KVTD481X2C_SetFrequencySweepGeneration, KVTD481X2C_ATTR_FREQUENCY_SWEEP_GENERATION
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetFrequencySweepGeneration(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_FREQUENCY_SWEEP_POINTS: number of points of the stepped frequency sweep.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. After a failure: unchanged, but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SWE1:POIN?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.
+ * @see KVTD481X2C_SetFrequencySweepPoints, KVTD481X2C_ATTR_FREQUENCY_SWEEP_POINTS
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetFrequencySweepPoints(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_FREQUENCY_SWEEP_SPACING: whether the points of the frequency sweep lie at equal differences or
+ * at equal ratios.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. KVTD481X2C_VAL_SWEEP_SPACING_LINEAR or KVTD481X2C_VAL_SWEEP_SPACING_LOGARITHMIC.
+ *               After a failure: -1 with 0xBFFA0059, else unchanged, but for 0xBFFA0001, which is found after the
+ *               reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0059  the answer is no word of a defined value
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SWE:SPAC?`.
+ * Simulated: nothing is sent; the value last stored, before that KVTD481X2C_VAL_SWEEP_SPACING_LINEAR.
+ * @see KVTD481X2C_SetFrequencySweepSpacing, KVTD481X2C_ATTR_FREQUENCY_SWEEP_SPACING
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetFrequencySweepSpacing(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_FREQUENCY_SWEEP_SPAN: width of the swept range.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. In Hz. After a failure: unchanged, but for 0xBFFA0001, which is found after the
+ *               reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViReal64 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:FREQ:SPAN?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.0.
+ * @see KVTD481X2C_SetFrequencySweepSpan, KVTD481X2C_ATTR_FREQUENCY_SWEEP_SPAN
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetFrequencySweepSpan(ViSession Vi, ViReal64* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_FREQUENCY_SWEEP_TIME_AUTO: whether the instrument chooses the duration of the frequency sweep.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. VI_TRUE or VI_FALSE. After a failure: 0xFFFF with 0xBFFA0059, else unchanged, but
+ *               for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViBoolean and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0059  the answer is no word of a defined value
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SWE1:TIME:AUTO?`.
+ * Simulated: nothing is sent; VI_FALSE.
+ * @see KVTD481X2C_ATTR_FREQUENCY_SWEEP_TIME_AUTO
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetFrequencySweepTimeAuto(ViSession Vi, ViBoolean* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_FREQUENCY_SWEEP_TIME_LOWER_LIMIT: shortest duration that a frequency sweep may have.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. In s. After a failure: unchanged, but for 0xBFFA0001, which is found after the
+ *               reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViReal64 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SWE1:TIME:LLIM?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.0.
+ * @see KVTD481X2C_SetFrequencySweepTimeLowerLimit, KVTD481X2C_ATTR_FREQUENCY_SWEEP_TIME_LOWER_LIMIT
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetFrequencySweepTimeLowerLimit(ViSession Vi, ViReal64* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_POWER_SWEEP_CENTER_POWER: center of the swept levels.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. In dBm. After a failure: unchanged, but for 0xBFFA0001, which is found after the
+ *               reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViReal64 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:POW:CENT?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.0.
+ * @see KVTD481X2C_SetPowerSweepCenterPower, KVTD481X2C_ATTR_POWER_SWEEP_CENTER_POWER
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetPowerSweepCenterPower(ViSession Vi, ViReal64* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_POWER_SWEEP_DIRECTION: whether the power sweep runs up or down.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. KVTD481X2C_VAL_SWEEP_DIRECTION_UP or KVTD481X2C_VAL_SWEEP_DIRECTION_DOWN. After a
+ *               failure: -1 with 0xBFFA0059, else unchanged, but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0059  the answer is no word of a defined value
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SWE2:DIR?`.
+ * Simulated: nothing is sent; the value last stored, before that KVTD481X2C_VAL_SWEEP_DIRECTION_UP.
+ * @see KVTD481X2C_SetPowerSweepDirection, KVTD481X2C_ATTR_POWER_SWEEP_DIRECTION
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetPowerSweepDirection(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_POWER_SWEEP_DWELL_AUTO: whether the instrument chooses how long the power sweep stays at each
+ * point.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. VI_TRUE or VI_FALSE. After a failure: 0xFFFF with 0xBFFA0059, else unchanged, but
+ *               for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViBoolean and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0059  the answer is no word of a defined value
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SWE2:DWEL:AUTO?`.
+ * Simulated: nothing is sent; VI_TRUE.
+ * @see KVTD481X2C_ATTR_POWER_SWEEP_DWELL_AUTO
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetPowerSweepDwellAuto(ViSession Vi, ViBoolean* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_POWER_SWEEP_POINTS: number of points of the power sweep.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. After a failure: unchanged, but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SWE2:POIN?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.
+ * @see KVTD481X2C_SetPowerSweepPoints, KVTD481X2C_ATTR_POWER_SWEEP_POINTS
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetPowerSweepPoints(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_POWER_SWEEP_SPAN: distance between the lowest and the highest of the swept levels.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. In dB. After a failure: unchanged, but for 0xBFFA0001, which is found after the
+ *               reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViReal64 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:POW:SPAN?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.0.
+ * @see KVTD481X2C_SetPowerSweepSpan, KVTD481X2C_ATTR_POWER_SWEEP_SPAN
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetPowerSweepSpan(ViSession Vi, ViReal64* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_POWER_SWEEP_TIME_AUTO: whether the instrument chooses the duration of the power sweep.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. VI_TRUE or VI_FALSE. After a failure: 0xFFFF with 0xBFFA0059, else unchanged, but
+ *               for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViBoolean and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0059  the answer is no word of a defined value
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SWE2:TIME:AUTO?`.
+ * Simulated: nothing is sent; VI_TRUE.
+ * @see KVTD481X2C_ATTR_POWER_SWEEP_TIME_AUTO
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetPowerSweepTimeAuto(ViSession Vi, ViBoolean* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_POWER_SWEEP_TIME_LOWER_LIMIT: shortest duration that a power sweep may have.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. In s. After a failure: unchanged, but for 0xBFFA0001, which is found after the
+ *               reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViReal64 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SWE2:TIME:LLIM?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.0.
+ * @see KVTD481X2C_SetPowerSweepTimeLowerLimit, KVTD481X2C_ATTR_POWER_SWEEP_TIME_LOWER_LIMIT
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetPowerSweepTimeLowerLimit(ViSession Vi, ViReal64* Value);
+
+/**
+ * Takes the stepped frequency sweep back to its first point.
+ *
+ * Asks for KVTD481X2C_ATTR_INITIATE_CONTINUOUS_ENABLED first: while it is on, the instrument arms itself again and the
+ * abort alone is sent; while it is off, the second text goes out, which arms it. The same as KVTD481X2C_ResetPowerStep.
+ *
+ * @param Vi  Handle from KVTD481X2C_InitWithOptions.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:INIT:CONT?`, `ABOR`, `ABOR;INIT`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ResetFrequencyStep(ViSession Vi);
+
+/**
+ * Takes the power sweep back to its first point.
+ *
+ * Asks for KVTD481X2C_ATTR_INITIATE_CONTINUOUS_ENABLED first: while it is on, the instrument arms itself again and the
+ * abort alone is sent; while it is off, the second text goes out, which arms it. The same as
+ * KVTD481X2C_ResetFrequencyStep.
+ *
+ * @param Vi  Handle from KVTD481X2C_InitWithOptions.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:INIT:CONT?`, `ABOR`, `ABOR;INIT`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ResetPowerStep(ViSession Vi);
+
+/**
+ * Writes KVTD481X2C_ATTR_FREQUENCY_SWEEP_CENTER_FREQUENCY: center of the swept range.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. In Hz. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:FREQ:CENT <Value> HZ`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetFrequencySweepCenterFrequency, KVTD481X2C_ATTR_FREQUENCY_SWEEP_CENTER_FREQUENCY
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFrequencySweepCenterFrequency(ViSession Vi, ViReal64 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_FREQUENCY_SWEEP_DELTA: width of the ranges that are given as a preset frequency and a
+ * difference.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. In Hz. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:FREQ:DELT <Value> HZ`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetFrequencySweepDelta, KVTD481X2C_ATTR_FREQUENCY_SWEEP_DELTA
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFrequencySweepDelta(ViSession Vi, ViReal64 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_FREQUENCY_SWEEP_DIRECTION: whether the frequency sweep runs up or down.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. KVTD481X2C_VAL_SWEEP_DIRECTION_UP or KVTD481X2C_VAL_SWEEP_DIRECTION_DOWN.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0000  Value is no defined value, or one without a word; nothing is sent
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:SWE1:DIR <Value>`.
+ * Simulated: nothing is converted or sent; the value is stored.
+ * @see KVTD481X2C_GetFrequencySweepDirection, KVTD481X2C_ATTR_FREQUENCY_SWEEP_DIRECTION
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFrequencySweepDirection(ViSession Vi, ViInt32 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_FREQUENCY_SWEEP_GENERATION: whether the frequency sweep is continuous or goes in steps.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. KVTD481X2C_VAL_SWEEP_GENERATION_ANALOG or KVTD481X2C_VAL_SWEEP_GENERATION_STEPPED.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0000  Value is no defined value, or one without a word; nothing is sent
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:SWE1:GEN <Value>`.
+ * Simulated: nothing is converted or sent; the value is stored.
+ * @see KVTD481X2C_GetFrequencySweepGeneration, KVTD481X2C_ATTR_FREQUENCY_SWEEP_GENERATION
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFrequencySweepGeneration(ViSession Vi, ViInt32 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_FREQUENCY_SWEEP_POINTS: number of points of the stepped frequency sweep.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:SWE1:POIN <Value>`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetFrequencySweepPoints, KVTD481X2C_ATTR_FREQUENCY_SWEEP_POINTS
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFrequencySweepPoints(ViSession Vi, ViInt32 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_FREQUENCY_SWEEP_RANGE: takes the swept range from two preset frequencies, or from one and the
+ * difference.
+ *
+ * Cannot be read back; the range shows in start and stop.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. KVTD481X2C_VAL_FREQUENCY_RANGE_F1_F2, KVTD481X2C_VAL_FREQUENCY_RANGE_F3_F4,
+ *               KVTD481X2C_VAL_FREQUENCY_RANGE_F5_DELTAF or KVTD481X2C_VAL_FREQUENCY_RANGE_F6_DELTAF.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0000  Value is no defined value, or one without a word; nothing is sent
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:SWE1:RANG <Value>`.
+ * Simulated: nothing is sent and nothing is stored.
+ * @see KVTD481X2C_ATTR_FREQUENCY_SWEEP_RANGE
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFrequencySweepRange(ViSession Vi, ViInt32 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_FREQUENCY_SWEEP_SPACING: whether the points of the frequency sweep lie at equal differences or
+ * at equal ratios.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. KVTD481X2C_VAL_SWEEP_SPACING_LINEAR or KVTD481X2C_VAL_SWEEP_SPACING_LOGARITHMIC.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0000  Value is no defined value, or one without a word; nothing is sent
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:SWE:SPAC <Value>`.
+ * Simulated: nothing is converted or sent; the value is stored.
+ * @see KVTD481X2C_GetFrequencySweepSpacing, KVTD481X2C_ATTR_FREQUENCY_SWEEP_SPACING
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFrequencySweepSpacing(ViSession Vi, ViInt32 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_FREQUENCY_SWEEP_SPAN: width of the swept range.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. In Hz. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:FREQ:SPAN <Value> HZ`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetFrequencySweepSpan, KVTD481X2C_ATTR_FREQUENCY_SWEEP_SPAN
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFrequencySweepSpan(ViSession Vi, ViReal64 Value);
+
+/**
+ * Sweeps over the whole frequency range of the instrument.
+ *
+ * @param Vi  Handle from KVTD481X2C_InitWithOptions.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:FREQ:SPAN:FULL`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFrequencySweepSpanToMaximum(ViSession Vi);
+
+/**
+ * Writes KVTD481X2C_ATTR_FREQUENCY_SWEEP_TIME_LOWER_LIMIT: shortest duration that a frequency sweep may have.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. In s. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:SWE1:TIME:LLIM <Value> `.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetFrequencySweepTimeLowerLimit, KVTD481X2C_ATTR_FREQUENCY_SWEEP_TIME_LOWER_LIMIT
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFrequencySweepTimeLowerLimit(ViSession Vi, ViReal64 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_POWER_SWEEP_CENTER_POWER: center of the swept levels.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. In dBm. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:POW:CENT <Value>`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetPowerSweepCenterPower, KVTD481X2C_ATTR_POWER_SWEEP_CENTER_POWER
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerSweepCenterPower(ViSession Vi, ViReal64 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_POWER_SWEEP_DIRECTION: whether the power sweep runs up or down.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. KVTD481X2C_VAL_SWEEP_DIRECTION_UP or KVTD481X2C_VAL_SWEEP_DIRECTION_DOWN.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0000  Value is no defined value, or one without a word; nothing is sent
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:SWE2:DIR <Value>`.
+ * Simulated: nothing is converted or sent; the value is stored.
+ * @see KVTD481X2C_GetPowerSweepDirection, KVTD481X2C_ATTR_POWER_SWEEP_DIRECTION
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerSweepDirection(ViSession Vi, ViInt32 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_POWER_SWEEP_POINTS: number of points of the power sweep.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:SWE2:POIN <Value>`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetPowerSweepPoints, KVTD481X2C_ATTR_POWER_SWEEP_POINTS
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerSweepPoints(ViSession Vi, ViInt32 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_POWER_SWEEP_RANGE: takes the swept levels from two preset power levels.
+ *
+ * Cannot be read back; the range shows in start and stop.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. KVTD481X2C_VAL_POWER_SWEEP_RANGE_L1_L2, KVTD481X2C_VAL_POWER_SWEEP_RANGE_L3_L4,
+ *               KVTD481X2C_VAL_POWER_SWEEP_RANGE_L5_L6, KVTD481X2C_VAL_POWER_SWEEP_RANGE_L7_L8 or
+ *               KVTD481X2C_VAL_POWER_SWEEP_RANGE_L9_L0.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0000  Value is no defined value, or one without a word; nothing is sent
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:SWE2:RANG <Value>`.
+ * Simulated: nothing is sent and nothing is stored.
+ * @see KVTD481X2C_ATTR_POWER_SWEEP_RANGE
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerSweepRange(ViSession Vi, ViInt32 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_POWER_SWEEP_SPAN: distance between the lowest and the highest of the swept levels.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. In dB. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:POW:SPAN <Value>`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetPowerSweepSpan, KVTD481X2C_ATTR_POWER_SWEEP_SPAN
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerSweepSpan(ViSession Vi, ViReal64 Value);
+
+/**
+ * Sweeps over the whole level range of the instrument.
+ *
+ * @param Vi  Handle from KVTD481X2C_InitWithOptions.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:POW:SPAN:FULL`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerSweepSpanToMaximum(ViSession Vi);
+
+/**
+ * Writes KVTD481X2C_ATTR_POWER_SWEEP_TIME_LOWER_LIMIT: shortest duration that a power sweep may have.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. In s. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:SWE2:TIME:LLIM <Value>`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetPowerSweepTimeLowerLimit, KVTD481X2C_ATTR_POWER_SWEEP_TIME_LOWER_LIMIT
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerSweepTimeLowerLimit(ViSession Vi, ViReal64 Value);
+
+/** @} */
+
+/**
+ * @defgroup trigger Trigger
+ *
+ * Starting, stopping and triggering what the sweep and list pages have configured. The instrument is the state machine;
+ * the driver sends the words and keeps no state.
+ * @{
+ */
+
+/** Whether the instrument arms itself again after each sweep. ViBoolean, read and write. */
+#define KVTD481X2C_ATTR_INITIATE_CONTINUOUS_ENABLED 1150175
+
+/** How a sweep is started and advanced. ViInt32, enumeration TRIGGER_TYPE, read and write. */
+#define KVTD481X2C_ATTR_TRIGGER_TYPE 1150177
+
+/**
+ * Whether a trigger plays the whole list or one point of it. ViInt32, enumeration LIST_TRIGGER_MODE, read and write.
+ */
+#define KVTD481X2C_ATTR_TRIGGER_MODE 1150182
+
+/** Where triggers come from. ViInt32, enumeration TRIGGER_SOURCE, read and write. */
+#define KVTD481X2C_ATTR_TRIGGER_SOURCE 1150183
+
+/**
+ * Stops the running sweep.
+ *
+ * @param Vi  Handle from KVTD481X2C_InitWithOptions.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:ABOR`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_Abort(ViSession Vi);
+
+/**
+ * Makes the instrument ready for a trigger.
+ *
+ * @param Vi  Handle from KVTD481X2C_InitWithOptions.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:INIT`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ArmTrigger(ViSession Vi);
+
+/**
+ * Takes the instrument to its quiescent state.
+ *
+ * The instrument is reset, under a timeout of 2000 ms that is put back on every path. Unlike KVTD481X2C_reset it leaves
+ * the values that the session remembers, and it does not change what KVTD481X2C_IsSettled answers.
+ *
+ * @param Vi  Handle from KVTD481X2C_InitWithOptions.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `*RST`. Queries `*OPC?`.
+ * Simulated: returns 0, sends nothing, and leaves the stored values.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_Disable(ViSession Vi);
+
+/**
+ * Switches every modulation off.
+ *
+ * Stops at the first failure and leaves the modulations behind it as they are.
+ *
+ * @param Vi  Handle from KVTD481X2C_InitWithOptions.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sets KVTD481X2C_ATTR_AM_ENABLED, KVTD481X2C_ATTR_FM_ENABLED, KVTD481X2C_ATTR_PM_ENABLED,
+ * KVTD481X2C_ATTR_PULSE_MODULATION_ENABLED, in this order, up to the first failure.
+ * Simulated: fails with VISA's status: the attributes make their VISA call.
+ * @see KVTD481X2C_ATTR_AM_ENABLED, KVTD481X2C_ATTR_FM_ENABLED, KVTD481X2C_ATTR_PM_ENABLED,
+ *      KVTD481X2C_ATTR_PULSE_MODULATION_ENABLED
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_DisableAllModulation(ViSession Vi);
+
+/**
+ * Reads KVTD481X2C_ATTR_INITIATE_CONTINUOUS_ENABLED: whether the instrument arms itself again after each sweep.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. VI_TRUE or VI_FALSE. After a failure: 0xFFFF with 0xBFFA0059, else unchanged, but
+ *               for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViBoolean and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0059  the answer is no word of a defined value
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:INIT:CONT?`.
+ * Simulated: nothing is sent; the value last stored, before that VI_TRUE.
+ * @see KVTD481X2C_SetInitiateContinuousEnabled, KVTD481X2C_ATTR_INITIATE_CONTINUOUS_ENABLED
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetInitiateContinuousEnabled(ViSession Vi, ViBoolean* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_TRIGGER_MODE: whether a trigger plays the whole list or one point of it.
+ *
+ * Takes the values KVTD481X2C_VAL_LIST_TRIGGER_MODE_...; those named KVTD481X2C_VAL_TRIGGER_MODE_... belong to the
+ * pulse generator.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. KVTD481X2C_VAL_LIST_TRIGGER_MODE_SWEEP or KVTD481X2C_VAL_LIST_TRIGGER_MODE_POINT.
+ *               After a failure: -1 with 0xBFFA0059, else unchanged, but for 0xBFFA0001, which is found after the
+ *               reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0059  the answer is no word of a defined value
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:TRIG:MODE?`.
+ * Simulated: nothing is sent; the value last stored, before that KVTD481X2C_VAL_LIST_TRIGGER_MODE_SWEEP.
+ * @see KVTD481X2C_SetTriggerMode, KVTD481X2C_ATTR_TRIGGER_MODE
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetTriggerMode(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_TRIGGER_SOURCE: where triggers come from.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. KVTD481X2C_VAL_TRIGGER_SOURCE_SOFTWARE, KVTD481X2C_VAL_TRIGGER_SOURCE_IMMEDIATE or
+ *               KVTD481X2C_VAL_TRIGGER_SOURCE_EXTERNAL. After a failure: -1 with 0xBFFA0059, else unchanged, but for
+ *               0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0059  the answer is no word of a defined value
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:TRIG:SOUR?`.
+ * Simulated: nothing is sent; the value last stored, before that KVTD481X2C_VAL_TRIGGER_SOURCE_SOFTWARE.
+ * @see KVTD481X2C_SetTriggerSource, KVTD481X2C_ATTR_TRIGGER_SOURCE
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetTriggerSource(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_TRIGGER_TYPE: how a sweep is started and advanced.
+ *
+ * KVTD481X2C_ATTR_SWEEP_TRIGGER_SOURCE and the single-step switches of frequency, power and list are views of this
+ * attribute.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. KVTD481X2C_VAL_TRIGGER_TYPE_AUTO, KVTD481X2C_VAL_TRIGGER_TYPE_SINGLE,
+ *               KVTD481X2C_VAL_TRIGGER_TYPE_EXTERNAL, KVTD481X2C_VAL_TRIGGER_TYPE_MANUAL or
+ *               KVTD481X2C_VAL_TRIGGER_TYPE_INACTIVE. After a failure: -1 with 0xBFFA0059, else unchanged, but for
+ *               0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0059  the answer is no word of a defined value
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:TRIG:TYPE?`.
+ * Simulated: nothing is sent; the value last stored, before that KVTD481X2C_VAL_TRIGGER_TYPE_AUTO.
+ * @see KVTD481X2C_SetTriggerType, KVTD481X2C_ATTR_TRIGGER_TYPE
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetTriggerType(ViSession Vi, ViInt32* Value);
+
+/**
+ * Sends a trigger.
+ *
+ * Neither KVTD481X2C_ATTR_TRIGGER_SOURCE nor KVTD481X2C_ATTR_TRIGGER_TYPE is looked at: the trigger goes out whatever
+ * they say, and the instrument decides what becomes of it.
+ *
+ * @param Vi  Handle from KVTD481X2C_InitWithOptions.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:TRIG`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SendSoftwareTrigger(ViSession Vi);
+
+/**
+ * Writes KVTD481X2C_ATTR_INITIATE_CONTINUOUS_ENABLED: whether the instrument arms itself again after each sweep.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. VI_TRUE or VI_FALSE.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0000  Value is no defined value, or one without a word; nothing is sent
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:INIT:CONT <Value>`.
+ * Simulated: nothing is converted or sent; the value is stored.
+ * @see KVTD481X2C_GetInitiateContinuousEnabled, KVTD481X2C_ATTR_INITIATE_CONTINUOUS_ENABLED
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetInitiateContinuousEnabled(ViSession Vi, ViBoolean Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_TRIGGER_MODE: whether a trigger plays the whole list or one point of it.
+ *
+ * Takes the values KVTD481X2C_VAL_LIST_TRIGGER_MODE_...; those named KVTD481X2C_VAL_TRIGGER_MODE_... belong to the
+ * pulse generator.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. KVTD481X2C_VAL_LIST_TRIGGER_MODE_SWEEP or KVTD481X2C_VAL_LIST_TRIGGER_MODE_POINT.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0000  Value is no defined value, or one without a word; nothing is sent
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:TRIG:MODE <Value>`.
+ * Simulated: nothing is converted or sent; the value is stored.
+ * @see KVTD481X2C_GetTriggerMode, KVTD481X2C_ATTR_TRIGGER_MODE
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetTriggerMode(ViSession Vi, ViInt32 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_TRIGGER_SOURCE: where triggers come from.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. KVTD481X2C_VAL_TRIGGER_SOURCE_SOFTWARE, KVTD481X2C_VAL_TRIGGER_SOURCE_IMMEDIATE or
+ *               KVTD481X2C_VAL_TRIGGER_SOURCE_EXTERNAL.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0000  Value is no defined value, or one without a word; nothing is sent
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:TRIG:SOUR <Value>`.
+ * Simulated: nothing is converted or sent; the value is stored.
+ * @see KVTD481X2C_GetTriggerSource, KVTD481X2C_ATTR_TRIGGER_SOURCE
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetTriggerSource(ViSession Vi, ViInt32 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_TRIGGER_TYPE: how a sweep is started and advanced.
+ *
+ * KVTD481X2C_ATTR_SWEEP_TRIGGER_SOURCE and the single-step switches of frequency, power and list are views of this
+ * attribute.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. KVTD481X2C_VAL_TRIGGER_TYPE_AUTO, KVTD481X2C_VAL_TRIGGER_TYPE_SINGLE,
+ *               KVTD481X2C_VAL_TRIGGER_TYPE_EXTERNAL, KVTD481X2C_VAL_TRIGGER_TYPE_MANUAL or
+ *               KVTD481X2C_VAL_TRIGGER_TYPE_INACTIVE.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0000  Value is no defined value, or one without a word; nothing is sent
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:TRIG:TYPE <Value>`.
+ * Simulated: nothing is converted or sent; the value is stored.
+ * @see KVTD481X2C_GetTriggerType, KVTD481X2C_ATTR_TRIGGER_TYPE
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetTriggerType(ViSession Vi, ViInt32 Value);
 
 /** @} */
 
