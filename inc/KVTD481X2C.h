@@ -1533,6 +1533,236 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_error_query(ViSession Vi, ViInt32* E
 /** @} */
 
 /**
+ * @defgroup firmware Firmware
+ *
+ * The instrument updates its own firmware, from a package on a USB stick or from a server that has a list of packages.
+ * The driver asks and tells: no package passes through it, and it does not wait for an update.
+ *
+ * What the instrument lists and what it takes as a package is its own; the driver passes the texts on, and escapes no
+ * quote in them.
+ * @{
+ */
+
+/** Where the instrument finds the list of packages: the web address of a text. ViString, read and write. */
+#define KVTD481X2C_ATTR_REMOTE_PACKAGE_SOURCE 1150157
+
+/** Whether the instrument looks for updates by itself. ViBoolean, read and write. */
+#define KVTD481X2C_ATTR_FIRMWARE_UPDATE_CHECK_ENABLED 1150158
+
+/** The version of the firmware. ViString, read. */
+#define KVTD481X2C_ATTR_FIRMWARE_VERSION 1150159
+
+/** The packages on the server, as the instrument last fetched their list. ViString, read. */
+#define KVTD481X2C_ATTR_REMOTE_PACKAGE_LIST 1150160
+
+/**
+ * Asks the instrument for the latest package on the server and whether it is an update.
+ *
+ * @param Vi                 Handle from KVTD481X2C_InitWithOptions.
+ * @param PackageBufferSize  Size of Package, terminator included; at least 1.
+ * @param Package            The name of the package, cut to the size. After a failure: unchanged, or what had arrived.
+ * @param Val                VI_TRUE if it is an update, else VI_FALSE. After a failure: 0xFFFF with 0xBFFA0059, else
+ *                           unchanged, but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  one of Package, Val is null
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         0xBFFA0059  the second field of the answer is no boolean word; no status check follows
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SYST:FIRM:UPD:REM:LAT?`.
+ * Simulated: returns 0 and leaves both outputs as they were; nothing is sent.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_CheckForFirmwareUpdates(ViSession Vi, ViInt32 PackageBufferSize,
+                                                                    ViChar Package[], ViBoolean* Val);
+
+/**
+ * Reads KVTD481X2C_ATTR_FIRMWARE_UPDATE_CHECK_ENABLED: whether the instrument looks for updates by itself.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. VI_TRUE or VI_FALSE. After a failure: 0xFFFF with 0xBFFA0059, else unchanged, but
+ *               for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViBoolean and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0059  the answer is no word of a defined value
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SYST:FIRM:UPD:REM:AUTO?`.
+ * Simulated: nothing is sent; the value last stored, before that VI_FALSE.
+ * @see KVTD481X2C_SetFirmwareUpdateCheckEnabled, KVTD481X2C_ATTR_FIRMWARE_UPDATE_CHECK_ENABLED
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetFirmwareUpdateCheckEnabled(ViSession Vi, ViBoolean* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_FIRMWARE_VERSION: the version of the firmware.
+ *
+ * @param Vi          Handle from KVTD481X2C_InitWithOptions.
+ * @param BufferSize  Bytes in Value. 0: returns 4096, which suffices for every text, without a read. Negative: up to
+ *                    4096 bytes are written.
+ * @param Value       Receives the text, terminated, cut to BufferSize. After a failure: what had arrived of it. Not
+ *                    touched, and may be null, when BufferSize is 0.
+ * @return VI_SUCCESS, 4096 when the text was cut or fills BufferSize exactly, or a negative status:
+ *         0xBFFA0058  Value is null and BufferSize is not 0 (the text names AttributeValueBufferSize)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SYST:FIRM:VERS?`.
+ * Simulated: nothing is sent; the empty text.
+ * @see KVTD481X2C_ATTR_FIRMWARE_VERSION
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetFirmwareVersion(ViSession Vi, ViInt32 BufferSize, ViChar Value[]);
+
+/**
+ * Reads KVTD481X2C_ATTR_REMOTE_PACKAGE_LIST: the packages on the server, as the instrument last fetched their list.
+ *
+ * KVTD481X2C_RefreshRemotePackageList has the list fetched again.
+ *
+ * @param Vi          Handle from KVTD481X2C_InitWithOptions.
+ * @param BufferSize  Bytes in Value. 0: returns 4096, which suffices for every text, without a read. Negative: up to
+ *                    4096 bytes are written.
+ * @param Value       Receives the text, terminated, cut to BufferSize. After a failure: what had arrived of it. Not
+ *                    touched, and may be null, when BufferSize is 0.
+ * @return VI_SUCCESS, 4096 when the text was cut or fills BufferSize exactly, or a negative status:
+ *         0xBFFA0058  Value is null and BufferSize is not 0 (the text names AttributeValueBufferSize)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SYST:FIRM:UPD:REM:LIST?`.
+ * Simulated: nothing is sent; the empty text.
+ * @see KVTD481X2C_ATTR_REMOTE_PACKAGE_LIST
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetRemotePackageList(ViSession Vi, ViInt32 BufferSize, ViChar Value[]);
+
+/**
+ * Reads KVTD481X2C_ATTR_REMOTE_PACKAGE_SOURCE: where the instrument finds the list of packages: the web address of a
+ * text.
+ *
+ * @param Vi          Handle from KVTD481X2C_InitWithOptions.
+ * @param BufferSize  Bytes in Value. 0: returns 4096, which suffices for every text, without a read. Negative: up to
+ *                    4096 bytes are written.
+ * @param Value       Receives the text, terminated, cut to BufferSize. After a failure: what had arrived of it. Not
+ *                    touched, and may be null, when BufferSize is 0.
+ * @return VI_SUCCESS, 4096 when the text was cut or fills BufferSize exactly, or a negative status:
+ *         0xBFFA0058  Value is null and BufferSize is not 0 (the text names AttributeValueBufferSize)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SYST:FIRM:UPD:REM:SOUR?`.
+ * Simulated: nothing is sent; the value last stored, before that the text
+ * "http://updates.kelvora.example/en-us/td481x2c.txt".
+ * @see KVTD481X2C_SetRemotePackageSource, KVTD481X2C_ATTR_REMOTE_PACKAGE_SOURCE
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetRemotePackageSource(ViSession Vi, ViInt32 BufferSize, ViChar Value[]);
+
+/**
+ * Lists the packages on the USB stick.
+ *
+ * @param Vi             Handle from KVTD481X2C_InitWithOptions.
+ * @param ValBufferSize  Size of Val, terminator included; at least 1, not tested.
+ * @param Val            The list, as the instrument gives it, cut to the size. After a failure: unchanged, or what had
+ *                       arrived.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Val is null
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SYST:FIRM:UPD:LIST?`.
+ * Simulated: returns 0 and leaves Val as it was; nothing is sent.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetUsbPackageList(ViSession Vi, ViInt32 ValBufferSize, ViChar Val[]);
+
+/**
+ * Has the instrument fetch the list of packages from the server.
+ *
+ * @param Vi  Handle from KVTD481X2C_InitWithOptions.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:SYST:FIRM:UPD:REM:LIST:REFR`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_RefreshRemotePackageList(ViSession Vi);
+
+/**
+ * Writes KVTD481X2C_ATTR_FIRMWARE_UPDATE_CHECK_ENABLED: whether the instrument looks for updates by itself.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. VI_TRUE or VI_FALSE.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0000  Value is no defined value, or one without a word; nothing is sent
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:SYST:FIRM:UPD:REM:AUTO <Value>`.
+ * Simulated: nothing is converted or sent; the value is stored.
+ * @see KVTD481X2C_GetFirmwareUpdateCheckEnabled, KVTD481X2C_ATTR_FIRMWARE_UPDATE_CHECK_ENABLED
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetFirmwareUpdateCheckEnabled(ViSession Vi, ViBoolean Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_REMOTE_PACKAGE_SOURCE: where the instrument finds the list of packages: the web address of a
+ * text.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new text, terminated. It is sent as it stands; the driver checks and escapes nothing in it.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:SYST:FIRM:UPD:REM:SOUR "<Value>"`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetRemotePackageSource, KVTD481X2C_ATTR_REMOTE_PACKAGE_SOURCE
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetRemotePackageSource(ViSession Vi, ViConstString Value);
+
+/**
+ * Starts an update of the firmware from a package at the instrument.
+ *
+ * The update goes on in the instrument when the call is over. What the two texts mean is the instrument's to say.
+ *
+ * @param Vi      Handle from KVTD481X2C_InitWithOptions.
+ * @param First   The first text, without quotes. Not null.
+ * @param Second  The second text, without quotes. Not null.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:SYST:FIRM:UPD "<First>","<Second>"`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_UpdateFirmware(ViSession Vi, ViConstString First, ViConstString Second);
+
+/**
+ * Starts an update of the firmware from a package on the server.
+ *
+ * The update goes on in the instrument when the call is over.
+ *
+ * @param Vi       Handle from KVTD481X2C_InitWithOptions.
+ * @param Package  The package, without quotes. Not null.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:SYST:FIRM:UPD:REM "<Package>"`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_UpdateFirmwareFromRemote(ViSession Vi, ViConstString Package);
+
+/** @} */
+
+/**
  * @defgroup fm_pm Frequency and phase modulation
  *
  * Two twins of the amplitude modulation. They have no scaling, so that the deviation of the class goes by the source
@@ -3436,6 +3666,367 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_UpdateListPowerLevels(ViSession Vi, 
 /** @} */
 
 /**
+ * @defgroup mass_memory Mass memory
+ *
+ * The instrument's file system: its devices and directories, files and their transfer, saved states and screenshots.
+ * The driver keeps nothing of it; each call is one command.
+ *
+ * Names go into the command as they stand, between quotes: nothing in them is checked, and a quote in them is not
+ * escaped. No name may be null.
+ * @{
+ */
+
+/** The memory device that is meant where none is given. ViString, read and write. */
+#define KVTD481X2C_ATTR_DEFAULT_MEMORY_DEVICE 1150166
+
+/** The directory that is meant where none is given. ViString, read and write. */
+#define KVTD481X2C_ATTR_DEFAULT_DIRECTORY 1150167
+
+/** The memory devices that the instrument has. ViString, read. */
+#define KVTD481X2C_ATTR_MEMORY_DEVICES 1150168
+
+/**
+ * Copies a file.
+ *
+ * @param Vi                 Handle from KVTD481X2C_InitWithOptions.
+ * @param SourceDevice       The device of the file.
+ * @param SourceFile         The file.
+ * @param DestinationDevice  The device of the copy.
+ * @param DestinationFile    The copy.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:MMEM:COPY "<SourceDevice>","<SourceFile>","<DestinationDevice>","<DestinationFile>"`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_CopyFile(ViSession Vi, ViConstString SourceDevice, ViConstString SourceFile,
+                                                     ViConstString DestinationDevice, ViConstString DestinationFile);
+
+/**
+ * Creates a directory.
+ *
+ * @param Vi         Handle from KVTD481X2C_InitWithOptions.
+ * @param Device     The device.
+ * @param Directory  The directory.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:MMEM:CRE:DIR "<Device>","<Directory>"`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_CreateDirectory(ViSession Vi, ViConstString Device,
+                                                            ViConstString Directory);
+
+/**
+ * Deletes a directory.
+ *
+ * @param Vi         Handle from KVTD481X2C_InitWithOptions.
+ * @param Device     The device.
+ * @param Directory  The directory.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:MMEM:DEL:DIR "<Device>","<Directory>"`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_DeleteDirectory(ViSession Vi, ViConstString Device,
+                                                            ViConstString Directory);
+
+/**
+ * Deletes a file.
+ *
+ * @param Vi      Handle from KVTD481X2C_InitWithOptions.
+ * @param Device  The device.
+ * @param File    The file.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `MMEM:DEL:FIL "<Device>","<File>"`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_DeleteFile(ViSession Vi, ViConstString Device, ViConstString File);
+
+/**
+ * Makes a removable memory device ready to be taken out.
+ *
+ * @param Vi      Handle from KVTD481X2C_InitWithOptions.
+ * @param Device  The device.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:MMEM:EJEC "<Device>"`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_EjectDevice(ViSession Vi, ViConstString Device);
+
+/**
+ * Reads KVTD481X2C_ATTR_DEFAULT_DIRECTORY: the directory that is meant where none is given.
+ *
+ * @param Vi          Handle from KVTD481X2C_InitWithOptions.
+ * @param BufferSize  Bytes in Value. 0: returns 4096, which suffices for every text, without a read. Negative: up to
+ *                    4096 bytes are written.
+ * @param Value       Receives the text, terminated, cut to BufferSize. After a failure: what had arrived of it. Not
+ *                    touched, and may be null, when BufferSize is 0.
+ * @return VI_SUCCESS, 4096 when the text was cut or fills BufferSize exactly, or a negative status:
+ *         0xBFFA0058  Value is null and BufferSize is not 0 (the text names AttributeValueBufferSize)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:MMEM:CDIR?`.
+ * Simulated: nothing is sent; the value last stored, before that the empty text.
+ * @see KVTD481X2C_SetDefaultDirectory, KVTD481X2C_ATTR_DEFAULT_DIRECTORY
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetDefaultDirectory(ViSession Vi, ViInt32 BufferSize, ViChar Value[]);
+
+/**
+ * Reads KVTD481X2C_ATTR_DEFAULT_MEMORY_DEVICE: the memory device that is meant where none is given.
+ *
+ * @param Vi          Handle from KVTD481X2C_InitWithOptions.
+ * @param BufferSize  Bytes in Value. 0: returns 4096, which suffices for every text, without a read. Negative: up to
+ *                    4096 bytes are written.
+ * @param Value       Receives the text, terminated, cut to BufferSize. After a failure: what had arrived of it. Not
+ *                    touched, and may be null, when BufferSize is 0.
+ * @return VI_SUCCESS, 4096 when the text was cut or fills BufferSize exactly, or a negative status:
+ *         0xBFFA0058  Value is null and BufferSize is not 0 (the text names AttributeValueBufferSize)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:MMEM:MSIS?`.
+ * Simulated: nothing is sent; the value last stored, before that the empty text.
+ * @see KVTD481X2C_SetDefaultMemoryDevice, KVTD481X2C_ATTR_DEFAULT_MEMORY_DEVICE
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetDefaultMemoryDevice(ViSession Vi, ViInt32 BufferSize, ViChar Value[]);
+
+/**
+ * Lists what a directory holds.
+ *
+ * The listing is one line; what does not fit into Val is dropped.
+ *
+ * @param Vi             Handle from KVTD481X2C_InitWithOptions.
+ * @param Device         The device.
+ * @param Directory      The directory.
+ * @param ValBufferSize  Size of Val, terminator included; at least 1, not tested.
+ * @param Val            The listing, as the instrument gives it, cut to the size. After a failure: unchanged, or what
+ *                       had arrived.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         0xBFFA0058  Val is null, also in a simulated session
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:MMEM:CAT:DIR? "<Device>","<Directory>"`.
+ * Simulated: returns 0 and leaves Val as it was; nothing is sent.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetDirectory(ViSession Vi, ViConstString Device, ViConstString Directory,
+                                                         ViInt32 ValBufferSize, ViChar Val[]);
+
+/**
+ * Gives the size of a directory.
+ *
+ * @param Vi         Handle from KVTD481X2C_InitWithOptions.
+ * @param Device     The device.
+ * @param Directory  The directory.
+ * @param Val        The size, as the instrument gives it. After a failure: unchanged, or what had arrived.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         0xBFFA0058  Val is null, also in a simulated session
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:MMEM:CAT:DIR:SIZE? "<Device>","<Directory>"`.
+ * Simulated: returns 0 and leaves Val as it was; nothing is sent.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetDirectorySize(ViSession Vi, ViConstString Device,
+                                                             ViConstString Directory, ViInt32* Val);
+
+/**
+ * Reads KVTD481X2C_ATTR_MEMORY_DEVICES: the memory devices that the instrument has.
+ *
+ * @param Vi          Handle from KVTD481X2C_InitWithOptions.
+ * @param BufferSize  Bytes in Value. 0: returns 4096, which suffices for every text, without a read. Negative: up to
+ *                    4096 bytes are written.
+ * @param Value       Receives the text, terminated, cut to BufferSize. After a failure: what had arrived of it. Not
+ *                    touched, and may be null, when BufferSize is 0.
+ * @return VI_SUCCESS, 4096 when the text was cut or fills BufferSize exactly, or a negative status:
+ *         0xBFFA0058  Value is null and BufferSize is not 0 (the text names AttributeValueBufferSize)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:MMEM:CAT:MSUS?`.
+ * Simulated: nothing is sent; the text "Internal".
+ * @see KVTD481X2C_ATTR_MEMORY_DEVICES
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetMemoryDevices(ViSession Vi, ViInt32 BufferSize, ViChar Value[]);
+
+/**
+ * Puts the instrument into a state saved in a file.
+ *
+ * The values that the session remembers stay: call KVTD481X2C_InvalidateAllAttributes where they are to be forgotten.
+ *
+ * @param Vi      Handle from KVTD481X2C_InitWithOptions.
+ * @param Device  The device.
+ * @param File    The file.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:MMEM:LOAD:STAT 0,"<Device>","<File>"`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_LoadState(ViSession Vi, ViConstString Device, ViConstString File);
+
+/**
+ * Reads a file of the instrument.
+ *
+ * The bytes are read straight into Data, up to its size. The rest of a larger file, and the line end behind the block
+ * in any case, stay in the input and are met by the next query of the session: give a buffer that holds the file, and
+ * take the line end away with KVTD481X2C_viRead. A block of unannounced length counts as an empty one. A header that
+ * announces a length of more than ten digits ends the process.
+ *
+ * @param Vi              Handle from KVTD481X2C_InitWithOptions.
+ * @param Device          The device.
+ * @param File            The file.
+ * @param DataBufferSize  Size of Data in bytes. Not negative.
+ * @param Data            The bytes, without a terminator. After a failure: unchanged, or what had arrived.
+ * @param DataActualSize  Number of bytes in Data; unchanged after a failure.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  one of Data, DataActualSize is null
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  never from this call: no status check follows it
+ *         0xBFFA0059  the answer is no block; the rest of it stays unread
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:MMEM:DATA? "<Device>","<File>"`.
+ * Simulated: returns 0 and leaves both outputs as they were; nothing is sent.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ReadFile(ViSession Vi, ViConstString Device, ViConstString File,
+                                                     ViInt32 DataBufferSize, ViByte Data[], ViInt32* DataActualSize);
+
+/**
+ * Saves the instrument's state in a file.
+ *
+ * @param Vi      Handle from KVTD481X2C_InitWithOptions.
+ * @param Device  The device.
+ * @param File    The file.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:MMEM:STOR:STAT 0,"<Device>","<File>"`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SaveState(ViSession Vi, ViConstString Device, ViConstString File);
+
+/**
+ * Writes a file on the instrument.
+ *
+ * The bytes go out as one block, whose size only Count and the timeout bound. Unlike a screenshot it does not raise
+ * KVTD481X2C_ATTR_SYSTEM_IO_TIMEOUT: for a large file that is the caller's to do.
+ *
+ * @param Vi      Handle from KVTD481X2C_InitWithOptions.
+ * @param Device  The device.
+ * @param File    The file.
+ * @param Count   Number of bytes.
+ * @param Data    The bytes, of any value. Not null.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:MMEM:DATA "%s","%s",%*b`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SendFile(ViSession Vi, ViConstString Device, ViConstString File,
+                                                     ViInt32 Count, const ViByte* Data);
+
+/**
+ * Writes KVTD481X2C_ATTR_DEFAULT_DIRECTORY: the directory that is meant where none is given.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new text, terminated. It is sent as it stands; the driver checks and escapes nothing in it.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:MMEM:CDIR "<Value>"`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetDefaultDirectory, KVTD481X2C_ATTR_DEFAULT_DIRECTORY
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetDefaultDirectory(ViSession Vi, ViConstString Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_DEFAULT_MEMORY_DEVICE: the memory device that is meant where none is given.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new text, terminated. It is sent as it stands; the driver checks and escapes nothing in it.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:MMEM:MSIS "<Value>"`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetDefaultMemoryDevice, KVTD481X2C_ATTR_DEFAULT_MEMORY_DEVICE
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetDefaultMemoryDevice(ViSession Vi, ViConstString Value);
+
+/**
+ * Reads a picture of the instrument's screen.
+ *
+ * With KVTD481X2C_ATTR_SYSTEM_IO_TIMEOUT below 20000 ms the transfer runs with 20000 ms, which is put back behind it.
+ * When the query fails, the timeout stays at 20000 ms.
+ *
+ * @param Vi             Handle from KVTD481X2C_InitWithOptions.
+ * @param ValBufferSize  Size of Val in bytes. Not negative.
+ * @param Val            The picture, cut to the size, without a terminator. After a failure: unchanged, or what had
+ *                       arrived.
+ * @param ValActualSize  Number of bytes in Val. After a failure: unchanged, but for 0xBFFA0001, which is found after
+ *                       the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  one of Val, ValActualSize is null
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:MMEM:STOR:SCR?`.
+ * Simulated: returns 0 and leaves both outputs as they were; nothing is sent.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_TakeScreenshotAndReturnData(ViSession Vi, ViInt32 ValBufferSize,
+                                                                        ViByte Val[], ViInt32* ValActualSize);
+
+/**
+ * Has the instrument store a picture of its screen in its own memory.
+ *
+ * @param Vi  Handle from KVTD481X2C_InitWithOptions.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:MMEM:STOR:SCR`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_TakeScreenshotAndStore(ViSession Vi);
+
+/** @} */
+
+/**
  * @defgroup power Power
  *
  * The output side: the level of the carrier, the output switch, the power mode that mirrors the frequency mode, ten
@@ -5267,6 +5858,629 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPulseWidth3(ViSession Vi, ViReal6
  * @see KVTD481X2C_GetPulseWidth4, KVTD481X2C_ATTR_PULSE_WIDTH4
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPulseWidth4(ViSession Vi, ViReal64 Value);
+
+/** @} */
+
+/**
+ * @defgroup reference Reference oscillator
+ *
+ * Which source each stage of the instrument's frequency reference is using, and the calibration of the main and of the
+ * low-frequency reference: started and aborted here, and followed through its status.
+ *
+ * The sources can be read and not chosen. The texts of status and date are the instrument's, without their line end.
+ * @{
+ */
+
+/** How the calibration of the main reference stands. ViString, read. */
+#define KVTD481X2C_ATTR_REFERENCE_CALIBRATION_STATUS 1150017
+
+/** How the calibration of the low-frequency reference stands. ViString, read. */
+#define KVTD481X2C_ATTR_LOW_FREQUENCY_REFERENCE_CALIBRATION_STATUS 1150018
+
+/** The source that the frequency reference follows. ViInt32, enumeration REFERENCE_OSCILLATOR_SOURCE, read. */
+#define KVTD481X2C_ATTR_REFERENCE_OSCILLATOR_ACTIVE_SOURCE 1150137
+
+/** The source of the low-frequency stage of the reference. ViInt32, enumeration LOW_FREQUENCY_SOURCE, read. */
+#define KVTD481X2C_ATTR_REFERENCE_OSCILLATOR_LOW_FREQUENCY_SOURCE 1150138
+
+/** The source of the multiplied stage of the reference. ViInt32, enumeration MULTIPLIED_SOURCE, read. */
+#define KVTD481X2C_ATTR_REFERENCE_OSCILLATOR_MULTIPLIED_SOURCE 1150139
+
+/** The source of the high-frequency stage of the reference. ViInt32, enumeration HIGH_FREQUENCY_SOURCE, read. */
+#define KVTD481X2C_ATTR_REFERENCE_OSCILLATOR_HIGH_FREQUENCY_SOURCE 1150140
+
+/** When the low-frequency reference was last calibrated. ViString, read. */
+#define KVTD481X2C_ATTR_LOW_FREQUENCY_REFERENCE_LAST_CALIBRATION_DATE 1150179
+
+/** When the main reference was last calibrated. ViString, read. */
+#define KVTD481X2C_ATTR_REFERENCE_LAST_CALIBRATION_DATE 1150180
+
+/**
+ * Ends the calibration of the low-frequency reference before it is done.
+ *
+ * @param Vi  Handle from KVTD481X2C_InitWithOptions.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:DIAG:CAL:REF:LFR:ABOR`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_AbortLowFrequencyReferenceCalibration(ViSession Vi);
+
+/**
+ * Ends the calibration of the main reference before it is done.
+ *
+ * @param Vi  Handle from KVTD481X2C_InitWithOptions.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:DIAG:CAL:REF:ABOR`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_AbortReferenceCalibration(ViSession Vi);
+
+/**
+ * Reads KVTD481X2C_ATTR_LOW_FREQUENCY_REFERENCE_CALIBRATION_STATUS: how the calibration of the low-frequency reference
+ * stands.
+ *
+ * @param Vi          Handle from KVTD481X2C_InitWithOptions.
+ * @param BufferSize  Bytes in Value. 0: returns 4096, which suffices for every text, without a read. Negative: up to
+ *                    4096 bytes are written.
+ * @param Value       Receives the text, terminated, cut to BufferSize. After a failure: what had arrived of it. Not
+ *                    touched, and may be null, when BufferSize is 0.
+ * @return VI_SUCCESS, 4096 when the text was cut or fills BufferSize exactly, or a negative status:
+ *         0xBFFA0058  Value is null and BufferSize is not 0 (the text names AttributeValueBufferSize)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:DIAG:CAL:REF:LFR:STAT?`.
+ * Simulated: nothing is sent; the text "0".
+ * @see KVTD481X2C_ATTR_LOW_FREQUENCY_REFERENCE_CALIBRATION_STATUS
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetLowFrequencyReferenceCalibrationStatus(ViSession Vi, ViInt32 BufferSize,
+                                                                                      ViChar Value[]);
+
+/**
+ * Reads KVTD481X2C_ATTR_LOW_FREQUENCY_REFERENCE_LAST_CALIBRATION_DATE: when the low-frequency reference was last
+ * calibrated.
+ *
+ * @param Vi          Handle from KVTD481X2C_InitWithOptions.
+ * @param BufferSize  Bytes in Value. 0: returns 4096, which suffices for every text, without a read. Negative: up to
+ *                    4096 bytes are written.
+ * @param Value       Receives the text, terminated, cut to BufferSize. After a failure: what had arrived of it. Not
+ *                    touched, and may be null, when BufferSize is 0.
+ * @return VI_SUCCESS, 4096 when the text was cut or fills BufferSize exactly, or a negative status:
+ *         0xBFFA0058  Value is null and BufferSize is not 0 (the text names AttributeValueBufferSize)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:DIAG:CAL:REF:LFR:DATE?`.
+ * Simulated: nothing is sent; the text "0".
+ * @see KVTD481X2C_ATTR_LOW_FREQUENCY_REFERENCE_LAST_CALIBRATION_DATE
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetLowFrequencyReferenceLastCalibrationDate(ViSession Vi,
+                                                                                        ViInt32 BufferSize,
+                                                                                        ViChar Value[]);
+
+/**
+ * Reads KVTD481X2C_ATTR_REFERENCE_CALIBRATION_STATUS: how the calibration of the main reference stands.
+ *
+ * @param Vi          Handle from KVTD481X2C_InitWithOptions.
+ * @param BufferSize  Bytes in Value. 0: returns 4096, which suffices for every text, without a read. Negative: up to
+ *                    4096 bytes are written.
+ * @param Value       Receives the text, terminated, cut to BufferSize. After a failure: what had arrived of it. Not
+ *                    touched, and may be null, when BufferSize is 0.
+ * @return VI_SUCCESS, 4096 when the text was cut or fills BufferSize exactly, or a negative status:
+ *         0xBFFA0058  Value is null and BufferSize is not 0 (the text names AttributeValueBufferSize)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:DIAG:CAL:REF:STAT?`.
+ * Simulated: nothing is sent; the text "0".
+ * @see KVTD481X2C_ATTR_REFERENCE_CALIBRATION_STATUS
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetReferenceCalibrationStatus(ViSession Vi, ViInt32 BufferSize,
+                                                                          ViChar Value[]);
+
+/**
+ * Reads KVTD481X2C_ATTR_REFERENCE_LAST_CALIBRATION_DATE: when the main reference was last calibrated.
+ *
+ * @param Vi          Handle from KVTD481X2C_InitWithOptions.
+ * @param BufferSize  Bytes in Value. 0: returns 4096, which suffices for every text, without a read. Negative: up to
+ *                    4096 bytes are written.
+ * @param Value       Receives the text, terminated, cut to BufferSize. After a failure: what had arrived of it. Not
+ *                    touched, and may be null, when BufferSize is 0.
+ * @return VI_SUCCESS, 4096 when the text was cut or fills BufferSize exactly, or a negative status:
+ *         0xBFFA0058  Value is null and BufferSize is not 0 (the text names AttributeValueBufferSize)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:DIAG:CAL:REF:DATE?`.
+ * Simulated: nothing is sent; the text "0".
+ * @see KVTD481X2C_ATTR_REFERENCE_LAST_CALIBRATION_DATE
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetReferenceLastCalibrationDate(ViSession Vi, ViInt32 BufferSize,
+                                                                            ViChar Value[]);
+
+/**
+ * Reads KVTD481X2C_ATTR_REFERENCE_OSCILLATOR_ACTIVE_SOURCE: the source that the frequency reference follows.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. KVTD481X2C_VAL_REFERENCE_OSCILLATOR_SOURCE_EXTERNAL_1600,
+ *               KVTD481X2C_VAL_REFERENCE_OSCILLATOR_SOURCE_EXTERNAL_100,
+ *               KVTD481X2C_VAL_REFERENCE_OSCILLATOR_SOURCE_EXTERNAL_1PPS,
+ *               KVTD481X2C_VAL_REFERENCE_OSCILLATOR_SOURCE_EXTERNAL_10,
+ *               KVTD481X2C_VAL_REFERENCE_OSCILLATOR_SOURCE_INTERNAL_GPS,
+ *               KVTD481X2C_VAL_REFERENCE_OSCILLATOR_SOURCE_INTERNAL_RUBIDIUM_10,
+ *               KVTD481X2C_VAL_REFERENCE_OSCILLATOR_SOURCE_INTERNAL_FREERUN_10 or
+ *               KVTD481X2C_VAL_REFERENCE_OSCILLATOR_SOURCE_INTERNAL_FREERUN_100. After a failure: -1 with 0xBFFA0059,
+ *               else unchanged, but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0059  the answer is no word of a defined value
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:ROSC:SOUR:CURR?`.
+ * Simulated: nothing is sent; KVTD481X2C_VAL_REFERENCE_OSCILLATOR_SOURCE_EXTERNAL_1600.
+ * @see KVTD481X2C_ATTR_REFERENCE_OSCILLATOR_ACTIVE_SOURCE
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetReferenceOscillatorActiveSource(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_REFERENCE_OSCILLATOR_HIGH_FREQUENCY_SOURCE: the source of the high-frequency stage of the
+ * reference.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. KVTD481X2C_VAL_HIGH_FREQUENCY_SOURCE_INTERNAL or
+ *               KVTD481X2C_VAL_HIGH_FREQUENCY_SOURCE_EXTERNAL. After a failure: -1 with 0xBFFA0059, else unchanged, but
+ *               for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0059  the answer is no word of a defined value
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:ROSC:HFR:SOUR?`.
+ * Simulated: nothing is sent; KVTD481X2C_VAL_HIGH_FREQUENCY_SOURCE_EXTERNAL.
+ * @see KVTD481X2C_ATTR_REFERENCE_OSCILLATOR_HIGH_FREQUENCY_SOURCE
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetReferenceOscillatorHighFrequencySource(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_REFERENCE_OSCILLATOR_LOW_FREQUENCY_SOURCE: the source of the low-frequency stage of the
+ * reference.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. KVTD481X2C_VAL_LOW_FREQUENCY_SOURCE_INTERNAL,
+ *               KVTD481X2C_VAL_LOW_FREQUENCY_SOURCE_RUBIDIUM, KVTD481X2C_VAL_LOW_FREQUENCY_SOURCEGPS,
+ *               KVTD481X2C_VAL_LOW_FREQUENCY_SOURCE_EXTERNAL_10 or KVTD481X2C_VAL_LOW_FREQUENCY_SOURCE_EXTERNAL_1PPS.
+ *               After a failure: -1 with 0xBFFA0059, else unchanged, but for 0xBFFA0001, which is found after the
+ *               reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0059  the answer is no word of a defined value
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:ROSC:LFR:SOUR?`.
+ * Simulated: nothing is sent; KVTD481X2C_VAL_LOW_FREQUENCY_SOURCE_EXTERNAL_1PPS.
+ * @see KVTD481X2C_ATTR_REFERENCE_OSCILLATOR_LOW_FREQUENCY_SOURCE
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetReferenceOscillatorLowFrequencySource(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_REFERENCE_OSCILLATOR_MULTIPLIED_SOURCE: the source of the multiplied stage of the reference.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. KVTD481X2C_VAL_MULTIPLIED_SOURCE_INTERNAL or
+ *               KVTD481X2C_VAL_MULTIPLIED_SOURCE_EXTERNAL. After a failure: -1 with 0xBFFA0059, else unchanged, but for
+ *               0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0059  the answer is no word of a defined value
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:ROSC:MULT:SOUR?`.
+ * Simulated: nothing is sent; KVTD481X2C_VAL_MULTIPLIED_SOURCE_EXTERNAL.
+ * @see KVTD481X2C_ATTR_REFERENCE_OSCILLATOR_MULTIPLIED_SOURCE
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetReferenceOscillatorMultipliedSource(ViSession Vi, ViInt32* Value);
+
+/**
+ * Starts the calibration of the low-frequency reference.
+ *
+ * Returns when the instrument has the command: the calibration goes on there, and
+ * KVTD481X2C_ATTR_LOW_FREQUENCY_REFERENCE_CALIBRATION_STATUS tells how it stands. A second start is sent as the first
+ * was.
+ *
+ * @param Vi  Handle from KVTD481X2C_InitWithOptions.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:DIAG:CAL:REF:LFR:INIT`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_StartLowFrequencyReferenceCalibration(ViSession Vi);
+
+/**
+ * Starts the calibration of the main reference.
+ *
+ * Returns when the instrument has the command: the calibration goes on there, and
+ * KVTD481X2C_ATTR_REFERENCE_CALIBRATION_STATUS tells how it stands. A second start is sent as the first was.
+ *
+ * @param Vi  Handle from KVTD481X2C_InitWithOptions.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:DIAG:CAL:REF:INIT`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_StartReferenceCalibration(ViSession Vi);
+
+/** @} */
+
+/**
+ * @defgroup remote_interface Remote interface
+ *
+ * The instrument's own GPIB and network settings, over whatever link the session has. They say nothing of the computer
+ * that the driver runs on, and a changed one may end the session's link.
+ *
+ * Addresses and names go to the instrument as quoted texts. An argument may come with its quotes and with blanks around
+ * it: both are taken away before the quotes are put on. The driver checks nothing in it.
+ * @{
+ */
+
+/** The primary GPIB address of the instrument. ViInt32, read and write. */
+#define KVTD481X2C_ATTR_GPIB_ADDRESS 1150152
+
+/** What the instrument ends its answers with on GPIB. ViInt32, enumeration LINE_TERMINATION, read and write. */
+#define KVTD481X2C_ATTR_COMMUNICATION_TERMINATION 1150153
+
+/** Whether the instrument takes its network configuration from a DHCP server. ViBoolean, read and write. */
+#define KVTD481X2C_ATTR_DHCP_ENABLED 1150154
+
+/** The host name of the instrument. ViString, read and write. */
+#define KVTD481X2C_ATTR_LAN_HOSTNAME 1150155
+
+/** The DNS servers of the instrument, separated by commas. ViString, read and write. */
+#define KVTD481X2C_ATTR_DNS_SERVER_LIST 1150156
+
+/**
+ * Adds DNS servers to the instrument's list.
+ *
+ * Each server goes out in quotes of its own, joined by commas without blanks.
+ *
+ * @param Vi    Handle from KVTD481X2C_InitWithOptions.
+ * @param List  The servers, separated by commas. Not null.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:SYST:COMM:LAN:DNSS:APP <List>`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_AddDnsServers(ViSession Vi, ViConstString List);
+
+/**
+ * Sets the DNS configuration.
+ *
+ * All three are sent, each in quotes, an empty one as two quotes. What they mean is the instrument's to say.
+ *
+ * @param Vi      Handle from KVTD481X2C_InitWithOptions.
+ * @param First   The first text. Not null.
+ * @param Second  The second text. Not null.
+ * @param Third   The third text. Not null.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:SYST:COMM:LAN:DNS <First>,<Second>,<Third>`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ConfigureDns(ViSession Vi, ViConstString First, ViConstString Second,
+                                                         ViConstString Third);
+
+/**
+ * Reads KVTD481X2C_ATTR_COMMUNICATION_TERMINATION: what the instrument ends its answers with on GPIB.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. KVTD481X2C_VAL_LINE_TERMINATION_CARRIAGE_RETURN,
+ *               KVTD481X2C_VAL_LINE_TERMINATION_CARRIAGE_RETURN_LINE_FEED or KVTD481X2C_VAL_LINE_TERMINATION_LINE_FEED.
+ *               After a failure: -1 with 0xBFFA0059, else unchanged, but for 0xBFFA0001, which is found after the
+ *               reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0059  the answer is no word of a defined value
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SYST:COMM:GPIB:TERM:OUTP?`.
+ * Simulated: nothing is sent; the value last stored, before that KVTD481X2C_VAL_LINE_TERMINATION_CARRIAGE_RETURN.
+ * @see KVTD481X2C_SetCommunicationTermination, KVTD481X2C_ATTR_COMMUNICATION_TERMINATION
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetCommunicationTermination(ViSession Vi, ViInt32* Value);
+
+/**
+ * Gives the network configuration that is in force.
+ *
+ * @param Vi             Handle from KVTD481X2C_InitWithOptions.
+ * @param ValBufferSize  Size of Val, terminator included; at least 1, not tested.
+ * @param Val            The configuration, as the instrument gives it, cut to the size. After a failure: unchanged, or
+ *                       what had arrived.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Val is null
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SYST:COMM:LAN:CONF:CURR?`.
+ * Simulated: returns 0 and leaves Val as it was; nothing is sent.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetCurrentLanConfiguration(ViSession Vi, ViInt32 ValBufferSize,
+                                                                       ViChar Val[]);
+
+/**
+ * Reads KVTD481X2C_ATTR_DHCP_ENABLED: whether the instrument takes its network configuration from a DHCP server.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. VI_TRUE or VI_FALSE. After a failure: 0xFFFF with 0xBFFA0059, else unchanged, but
+ *               for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViBoolean and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0059  the answer is no word of a defined value
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SYST:COMM:LAN:DHCP?`.
+ * Simulated: nothing is sent; the value last stored, before that VI_TRUE.
+ * @see KVTD481X2C_SetDhcpEnabled, KVTD481X2C_ATTR_DHCP_ENABLED
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetDhcpEnabled(ViSession Vi, ViBoolean* Value);
+
+/**
+ * Gives the DNS configuration.
+ *
+ * @param Vi             Handle from KVTD481X2C_InitWithOptions.
+ * @param ValBufferSize  Size of Val, terminator included; at least 1, not tested.
+ * @param Val            The configuration, as the instrument gives it, cut to the size. After a failure: unchanged, or
+ *                       what had arrived.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Val is null
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SYST:COMM:LAN:DNS?`.
+ * Simulated: returns 0 and leaves Val as it was; nothing is sent.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetDnsConfiguration(ViSession Vi, ViInt32 ValBufferSize, ViChar Val[]);
+
+/**
+ * Reads KVTD481X2C_ATTR_DNS_SERVER_LIST: the DNS servers of the instrument, separated by commas.
+ *
+ * Each server goes out in quotes of its own, joined by commas without blanks; an empty text sends the command with
+ * nothing behind it. A simulated session reads the text as it was written, not as it would have gone out.
+ *
+ * @param Vi          Handle from KVTD481X2C_InitWithOptions.
+ * @param BufferSize  Bytes in Value. 0: returns 4096, which suffices for every text, without a read. Negative: up to
+ *                    4096 bytes are written.
+ * @param Value       Receives the text, terminated, cut to BufferSize. After a failure: what had arrived of it. Not
+ *                    touched, and may be null, when BufferSize is 0.
+ * @return VI_SUCCESS, 4096 when the text was cut or fills BufferSize exactly, or a negative status:
+ *         0xBFFA0058  Value is null and BufferSize is not 0 (the text names AttributeValueBufferSize)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SYST:COMM:LAN:DNSS:LIST?`.
+ * Simulated: nothing is sent; the value last stored, before that the empty text.
+ * @see KVTD481X2C_SetDnsServerList, KVTD481X2C_ATTR_DNS_SERVER_LIST
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetDnsServerList(ViSession Vi, ViInt32 BufferSize, ViChar Value[]);
+
+/**
+ * Reads KVTD481X2C_ATTR_GPIB_ADDRESS: the primary GPIB address of the instrument.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. After a failure: unchanged, but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SYST:COMM:GPIB:ADDR:PRIM?`.
+ * Simulated: nothing is sent; the value last stored, before that 0.
+ * @see KVTD481X2C_SetGpibAddress, KVTD481X2C_ATTR_GPIB_ADDRESS
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetGpibAddress(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_LAN_HOSTNAME: the host name of the instrument.
+ *
+ * @param Vi          Handle from KVTD481X2C_InitWithOptions.
+ * @param BufferSize  Bytes in Value. 0: returns 4096, which suffices for every text, without a read. Negative: up to
+ *                    4096 bytes are written.
+ * @param Value       Receives the text, terminated, cut to BufferSize. After a failure: what had arrived of it. Not
+ *                    touched, and may be null, when BufferSize is 0.
+ * @return VI_SUCCESS, 4096 when the text was cut or fills BufferSize exactly, or a negative status:
+ *         0xBFFA0058  Value is null and BufferSize is not 0 (the text names AttributeValueBufferSize)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SYST:COMM:LAN:HOST?`.
+ * Simulated: nothing is sent; the value last stored, before that the empty text.
+ * @see KVTD481X2C_SetLanHostname, KVTD481X2C_ATTR_LAN_HOSTNAME
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetLanHostname(ViSession Vi, ViInt32 BufferSize, ViChar Value[]);
+
+/**
+ * Gives the network configuration that holds without DHCP.
+ *
+ * @param Vi             Handle from KVTD481X2C_InitWithOptions.
+ * @param ValBufferSize  Size of Val, terminator included; at least 1, not tested.
+ * @param Val            The configuration, as the instrument gives it, cut to the size. After a failure: unchanged, or
+ *                       what had arrived.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Val is null
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SYST:COMM:LAN:CONF?`.
+ * Simulated: returns 0 and leaves Val as it was; nothing is sent.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetStaticLanConfiguration(ViSession Vi, ViInt32 ValBufferSize,
+                                                                      ViChar Val[]);
+
+/**
+ * Removes DNS servers from the instrument's list.
+ *
+ * Each server goes out in quotes of its own, joined by commas without blanks.
+ *
+ * @param Vi    Handle from KVTD481X2C_InitWithOptions.
+ * @param List  The servers, separated by commas. Not null.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:SYST:COMM:LAN:DNSS:DEL <List>`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_RemoveDnsServers(ViSession Vi, ViConstString List);
+
+/**
+ * Writes KVTD481X2C_ATTR_COMMUNICATION_TERMINATION: what the instrument ends its answers with on GPIB.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. KVTD481X2C_VAL_LINE_TERMINATION_CARRIAGE_RETURN,
+ *               KVTD481X2C_VAL_LINE_TERMINATION_CARRIAGE_RETURN_LINE_FEED or KVTD481X2C_VAL_LINE_TERMINATION_LINE_FEED.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0000  Value is no defined value, or one without a word; nothing is sent
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:SYST:COMM:GPIB:TERM:OUTP <Value>`.
+ * Simulated: nothing is converted or sent; the value is stored.
+ * @see KVTD481X2C_GetCommunicationTermination, KVTD481X2C_ATTR_COMMUNICATION_TERMINATION
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetCommunicationTermination(ViSession Vi, ViInt32 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_DHCP_ENABLED: whether the instrument takes its network configuration from a DHCP server.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. VI_TRUE or VI_FALSE.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0000  Value is no defined value, or one without a word; nothing is sent
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:SYST:COMM:LAN:DHCP <Value>`.
+ * Simulated: nothing is converted or sent; the value is stored.
+ * @see KVTD481X2C_GetDhcpEnabled, KVTD481X2C_ATTR_DHCP_ENABLED
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetDhcpEnabled(ViSession Vi, ViBoolean Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_DNS_SERVER_LIST: the DNS servers of the instrument, separated by commas.
+ *
+ * Each server goes out in quotes of its own, joined by commas without blanks; an empty text sends the command with
+ * nothing behind it. A simulated session reads the text as it was written, not as it would have gone out.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new text, terminated. It passes through QuoteList on its way out.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:SYST:COMM:LAN:DNSS:LIST <Value>`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetDnsServerList, KVTD481X2C_ATTR_DNS_SERVER_LIST
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetDnsServerList(ViSession Vi, ViConstString Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_GPIB_ADDRESS: the primary GPIB address of the instrument.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. Range: the instrument's; the driver checks none.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:SYST:COMM:GPIB:ADDR:PRIM <Value>`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetGpibAddress, KVTD481X2C_ATTR_GPIB_ADDRESS
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetGpibAddress(ViSession Vi, ViInt32 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_LAN_HOSTNAME: the host name of the instrument.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new text, terminated. It is sent as it stands; the driver checks and escapes nothing in it.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:SYST:COMM:LAN:HOST "<Value>"`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetLanHostname, KVTD481X2C_ATTR_LAN_HOSTNAME
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetLanHostname(ViSession Vi, ViConstString Value);
+
+/**
+ * Sets the network configuration that holds without DHCP.
+ *
+ * The command is put together piece by piece and has one, two or three texts: an empty Second ends it, and Third is
+ * then dropped without a word. A Second of blanks is not empty and goes out as two quotes. What the three mean is the
+ * instrument's to say. A refusal stays in its error queue until a later status check meets it.
+ *
+ * @param Vi      Handle from KVTD481X2C_InitWithOptions.
+ * @param First   The first text. Not null.
+ * @param Second  The second text, or an empty one. Not null.
+ * @param Third   The third text, or an empty one. Not null.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  never from this call: no status check follows it
+ *         a VISA status when the exchange fails
+ *
+ * Sends `%s`, `:SYST:COMM:LAN:CONF "<First>"`, `:SYST:COMM:LAN:CONF "<First>","<Second>"`, `:SYST:COMM:LAN:CONF
+ * "<First>","<Second>","<Third>"`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetStaticLanConfiguration(ViSession Vi, ViConstString First,
+                                                                      ViConstString Second, ViConstString Third);
 
 /** @} */
 
@@ -7189,6 +8403,590 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerSweepSpanToMaximum(ViSession
  * @see KVTD481X2C_GetPowerSweepTimeLowerLimit, KVTD481X2C_ATTR_POWER_SWEEP_TIME_LOWER_LIMIT
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetPowerSweepTimeLowerLimit(ViSession Vi, ViReal64 Value);
+
+/** @} */
+
+/**
+ * @defgroup system System
+ *
+ * The instrument as a computer: what it is and has, its temperature, its applications and options, its GPS receiver,
+ * and its clock with the time zone and the synchronisation.
+ *
+ * Texts are passed on as the instrument gives them. Setting the clock does not look at KVTD481X2C_ATTR_TIME_SYNC_MODE:
+ * whether a date is accepted while the clock is synchronised is for the instrument to say.
+ * @{
+ */
+
+/** The instrument's log of errors. ViString, read. */
+#define KVTD481X2C_ATTR_SYSTEM_ERROR_LOG 1150144
+
+/** The MAC address of the instrument. ViString, read. */
+#define KVTD481X2C_ATTR_MAC_ADDRESS 1150145
+
+/** The modules that the instrument is built of. ViString, read. */
+#define KVTD481X2C_ATTR_MODULE_INFORMATION 1150146
+
+/** The version of SCPI that the instrument follows. ViString, read. */
+#define KVTD481X2C_ATTR_SCPI_VERSION 1150147
+
+/** The serial number of the instrument. ViString, read. */
+#define KVTD481X2C_ATTR_SERIAL_NUMBER 1150148
+
+/** The temperature inside the instrument. ViReal64, degC, read. */
+#define KVTD481X2C_ATTR_TEMPERATURE 1150149
+
+/** The memory of the instrument, in the instrument's own measure. ViInt32, read. */
+#define KVTD481X2C_ATTR_TOTAL_MEMORY 1150150
+
+/** The name that the user has given to this unit. ViString, read and write. */
+#define KVTD481X2C_ATTR_UNIT_NAME 1150151
+
+/** The applications that are active. ViString, read. */
+#define KVTD481X2C_ATTR_ACTIVE_APPLICATIONS 1150161
+
+/** The applications that the instrument has. ViString, read. */
+#define KVTD481X2C_ATTR_AVAILABLE_APPLICATIONS 1150162
+
+/** What the GPS receiver reports, in short. ViString, read. */
+#define KVTD481X2C_ATTR_BASIC_GPS_INFO 1150163
+
+/** What the GPS receiver reports, in full. ViString, read. */
+#define KVTD481X2C_ATTR_FULL_GPS_INFO 1150164
+
+/** Whether the GPS receiver is on. ViBoolean, read and write. */
+#define KVTD481X2C_ATTR_GPS_ENABLED 1150165
+
+/** How the options of the instrument are configured. ViString, read. */
+#define KVTD481X2C_ATTR_OPTIONS_CONFIGURATION 1150169
+
+/**
+ * Whether the clock is synchronised automatically or set by hand. ViInt32, enumeration TIME_SYNC_MODE, read and write.
+ */
+#define KVTD481X2C_ATTR_TIME_SYNC_MODE 1150171
+
+/** What the clock is synchronised with. ViInt32, enumeration TIME_SYNC_STATUS, read. */
+#define KVTD481X2C_ATTR_TIME_SYNC_STATUS 1150172
+
+/** The time zone of the clock. ViString, read and write. */
+#define KVTD481X2C_ATTR_TIME_ZONE 1150173
+
+/**
+ * Reads KVTD481X2C_ATTR_ACTIVE_APPLICATIONS: the applications that are active.
+ *
+ * @param Vi          Handle from KVTD481X2C_InitWithOptions.
+ * @param BufferSize  Bytes in Value. 0: returns 4096, which suffices for every text, without a read. Negative: up to
+ *                    4096 bytes are written.
+ * @param Value       Receives the text, terminated, cut to BufferSize. After a failure: what had arrived of it. Not
+ *                    touched, and may be null, when BufferSize is 0.
+ * @return VI_SUCCESS, 4096 when the text was cut or fills BufferSize exactly, or a negative status:
+ *         0xBFFA0058  Value is null and BufferSize is not 0 (the text names AttributeValueBufferSize)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:INST:CAT:ACT?`.
+ * Simulated: nothing is sent; the empty text.
+ * @see KVTD481X2C_ATTR_ACTIVE_APPLICATIONS
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetActiveApplications(ViSession Vi, ViInt32 BufferSize, ViChar Value[]);
+
+/**
+ * Reads KVTD481X2C_ATTR_AVAILABLE_APPLICATIONS: the applications that the instrument has.
+ *
+ * @param Vi          Handle from KVTD481X2C_InitWithOptions.
+ * @param BufferSize  Bytes in Value. 0: returns 4096, which suffices for every text, without a read. Negative: up to
+ *                    4096 bytes are written.
+ * @param Value       Receives the text, terminated, cut to BufferSize. After a failure: what had arrived of it. Not
+ *                    touched, and may be null, when BufferSize is 0.
+ * @return VI_SUCCESS, 4096 when the text was cut or fills BufferSize exactly, or a negative status:
+ *         0xBFFA0058  Value is null and BufferSize is not 0 (the text names AttributeValueBufferSize)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:INST:CAT:FULL?`.
+ * Simulated: nothing is sent; the empty text.
+ * @see KVTD481X2C_ATTR_AVAILABLE_APPLICATIONS
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetAvailableApplications(ViSession Vi, ViInt32 BufferSize, ViChar Value[]);
+
+/**
+ * Reads KVTD481X2C_ATTR_BASIC_GPS_INFO: what the GPS receiver reports, in short.
+ *
+ * @param Vi          Handle from KVTD481X2C_InitWithOptions.
+ * @param BufferSize  Bytes in Value. 0: returns 4096, which suffices for every text, without a read. Negative: up to
+ *                    4096 bytes are written.
+ * @param Value       Receives the text, terminated, cut to BufferSize. After a failure: what had arrived of it. Not
+ *                    touched, and may be null, when BufferSize is 0.
+ * @return VI_SUCCESS, 4096 when the text was cut or fills BufferSize exactly, or a negative status:
+ *         0xBFFA0058  Value is null and BufferSize is not 0 (the text names AttributeValueBufferSize)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:FETC:GPS?`.
+ * Simulated: nothing is sent; the empty text.
+ * @see KVTD481X2C_ATTR_BASIC_GPS_INFO
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetBasicGpsInfo(ViSession Vi, ViInt32 BufferSize, ViChar Value[]);
+
+/**
+ * Reads KVTD481X2C_ATTR_FULL_GPS_INFO: what the GPS receiver reports, in full.
+ *
+ * @param Vi          Handle from KVTD481X2C_InitWithOptions.
+ * @param BufferSize  Bytes in Value. 0: returns 4096, which suffices for every text, without a read. Negative: up to
+ *                    4096 bytes are written.
+ * @param Value       Receives the text, terminated, cut to BufferSize. After a failure: what had arrived of it. Not
+ *                    touched, and may be null, when BufferSize is 0.
+ * @return VI_SUCCESS, 4096 when the text was cut or fills BufferSize exactly, or a negative status:
+ *         0xBFFA0058  Value is null and BufferSize is not 0 (the text names AttributeValueBufferSize)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:FETC:GPS:FULL?`.
+ * Simulated: nothing is sent; the empty text.
+ * @see KVTD481X2C_ATTR_FULL_GPS_INFO
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetFullGpsInfo(ViSession Vi, ViInt32 BufferSize, ViChar Value[]);
+
+/**
+ * Reads KVTD481X2C_ATTR_GPS_ENABLED: whether the GPS receiver is on.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. VI_TRUE or VI_FALSE. After a failure: 0xFFFF with 0xBFFA0059, else unchanged, but
+ *               for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViBoolean and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0059  the answer is no word of a defined value
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SYST:GPS:STAT?`.
+ * Simulated: nothing is sent; the value last stored, before that VI_TRUE.
+ * @see KVTD481X2C_SetGpsEnabled, KVTD481X2C_ATTR_GPS_ENABLED
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetGpsEnabled(ViSession Vi, ViBoolean* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_MAC_ADDRESS: the MAC address of the instrument.
+ *
+ * @param Vi          Handle from KVTD481X2C_InitWithOptions.
+ * @param BufferSize  Bytes in Value. 0: returns 4096, which suffices for every text, without a read. Negative: up to
+ *                    4096 bytes are written.
+ * @param Value       Receives the text, terminated, cut to BufferSize. After a failure: what had arrived of it. Not
+ *                    touched, and may be null, when BufferSize is 0.
+ * @return VI_SUCCESS, 4096 when the text was cut or fills BufferSize exactly, or a negative status:
+ *         0xBFFA0058  Value is null and BufferSize is not 0 (the text names AttributeValueBufferSize)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SYST:MAC?`.
+ * Simulated: nothing is sent; the empty text.
+ * @see KVTD481X2C_ATTR_MAC_ADDRESS
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetMacAddress(ViSession Vi, ViInt32 BufferSize, ViChar Value[]);
+
+/**
+ * Reads KVTD481X2C_ATTR_MODULE_INFORMATION: the modules that the instrument is built of.
+ *
+ * @param Vi          Handle from KVTD481X2C_InitWithOptions.
+ * @param BufferSize  Bytes in Value. 0: returns 4096, which suffices for every text, without a read. Negative: up to
+ *                    4096 bytes are written.
+ * @param Value       Receives the text, terminated, cut to BufferSize. After a failure: what had arrived of it. Not
+ *                    touched, and may be null, when BufferSize is 0.
+ * @return VI_SUCCESS, 4096 when the text was cut or fills BufferSize exactly, or a negative status:
+ *         0xBFFA0058  Value is null and BufferSize is not 0 (the text names AttributeValueBufferSize)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:DIAG:MOD:INFO?`.
+ * Simulated: nothing is sent; the empty text.
+ * @see KVTD481X2C_ATTR_MODULE_INFORMATION
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetModuleInformation(ViSession Vi, ViInt32 BufferSize, ViChar Value[]);
+
+/**
+ * Reads KVTD481X2C_ATTR_OPTIONS_CONFIGURATION: how the options of the instrument are configured.
+ *
+ * @param Vi          Handle from KVTD481X2C_InitWithOptions.
+ * @param BufferSize  Bytes in Value. 0: returns 4096, which suffices for every text, without a read. Negative: up to
+ *                    4096 bytes are written.
+ * @param Value       Receives the text, terminated, cut to BufferSize. After a failure: what had arrived of it. Not
+ *                    touched, and may be null, when BufferSize is 0.
+ * @return VI_SUCCESS, 4096 when the text was cut or fills BufferSize exactly, or a negative status:
+ *         0xBFFA0058  Value is null and BufferSize is not 0 (the text names AttributeValueBufferSize)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SYST:OPT:CONF?`.
+ * Simulated: nothing is sent; the empty text.
+ * @see KVTD481X2C_ATTR_OPTIONS_CONFIGURATION
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetOptionsConfiguration(ViSession Vi, ViInt32 BufferSize, ViChar Value[]);
+
+/**
+ * Reads KVTD481X2C_ATTR_SCPI_VERSION: the version of SCPI that the instrument follows.
+ *
+ * @param Vi          Handle from KVTD481X2C_InitWithOptions.
+ * @param BufferSize  Bytes in Value. 0: returns 4096, which suffices for every text, without a read. Negative: up to
+ *                    4096 bytes are written.
+ * @param Value       Receives the text, terminated, cut to BufferSize. After a failure: what had arrived of it. Not
+ *                    touched, and may be null, when BufferSize is 0.
+ * @return VI_SUCCESS, 4096 when the text was cut or fills BufferSize exactly, or a negative status:
+ *         0xBFFA0058  Value is null and BufferSize is not 0 (the text names AttributeValueBufferSize)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SYST:VERS?`.
+ * Simulated: nothing is sent; the empty text.
+ * @see KVTD481X2C_ATTR_SCPI_VERSION
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetScpiVersion(ViSession Vi, ViInt32 BufferSize, ViChar Value[]);
+
+/**
+ * Reads KVTD481X2C_ATTR_SERIAL_NUMBER: the serial number of the instrument.
+ *
+ * @param Vi          Handle from KVTD481X2C_InitWithOptions.
+ * @param BufferSize  Bytes in Value. 0: returns 4096, which suffices for every text, without a read. Negative: up to
+ *                    4096 bytes are written.
+ * @param Value       Receives the text, terminated, cut to BufferSize. After a failure: what had arrived of it. Not
+ *                    touched, and may be null, when BufferSize is 0.
+ * @return VI_SUCCESS, 4096 when the text was cut or fills BufferSize exactly, or a negative status:
+ *         0xBFFA0058  Value is null and BufferSize is not 0 (the text names AttributeValueBufferSize)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:DIAG:SNUM?`.
+ * Simulated: nothing is sent; the empty text.
+ * @see KVTD481X2C_ATTR_SERIAL_NUMBER
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetSerialNumber(ViSession Vi, ViInt32 BufferSize, ViChar Value[]);
+
+/**
+ * Reads the date of the instrument's clock.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Year   The year. After a failure: unchanged, or what had arrived.
+ * @param Month  The month. After a failure: unchanged, or what had arrived.
+ * @param Day    The day. After a failure: unchanged, or what had arrived.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  one of Year, Month, Day is null
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SYST:DATE?`.
+ * Simulated: returns 0 and leaves the three as they were; nothing is sent.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetSystemDate(ViSession Vi, ViInt32* Year, ViInt32* Month, ViInt32* Day);
+
+/**
+ * Reads KVTD481X2C_ATTR_SYSTEM_ERROR_LOG: the instrument's log of errors.
+ *
+ * The error queue is another thing: KVTD481X2C_error_query reads it.
+ *
+ * @param Vi          Handle from KVTD481X2C_InitWithOptions.
+ * @param BufferSize  Bytes in Value. 0: returns 4096, which suffices for every text, without a read. Negative: up to
+ *                    4096 bytes are written.
+ * @param Value       Receives the text, terminated, cut to BufferSize. After a failure: what had arrived of it. Not
+ *                    touched, and may be null, when BufferSize is 0.
+ * @return VI_SUCCESS, 4096 when the text was cut or fills BufferSize exactly, or a negative status:
+ *         0xBFFA0058  Value is null and BufferSize is not 0 (the text names AttributeValueBufferSize)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SYST:LOG:ERR?`.
+ * Simulated: nothing is sent; the empty text.
+ * @see KVTD481X2C_ATTR_SYSTEM_ERROR_LOG
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetSystemErrorLog(ViSession Vi, ViInt32 BufferSize, ViChar Value[]);
+
+/**
+ * Lists the options that the instrument has.
+ *
+ * @param Vi             Handle from KVTD481X2C_InitWithOptions.
+ * @param ValBufferSize  Size of Val, terminator included; at least 1, not tested.
+ * @param Val            The list, as the instrument gives it, cut to the size. After a failure: unchanged, or what had
+ *                       arrived.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Val is null
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SYST:OPT?`.
+ * Simulated: returns 0 and leaves Val as it was; nothing is sent.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetSystemOptions(ViSession Vi, ViInt32 ValBufferSize, ViChar Val[]);
+
+/**
+ * Reads the time of the instrument's clock.
+ *
+ * @param Vi      Handle from KVTD481X2C_InitWithOptions.
+ * @param Hour    The hour. After a failure: unchanged, or what had arrived.
+ * @param Minute  The minute. After a failure: unchanged, or what had arrived.
+ * @param Second  The second. After a failure: unchanged, or what had arrived.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  one of Hour, Minute, Second is null
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SYST:TIME?`.
+ * Simulated: returns 0 and leaves the three as they were; nothing is sent.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetSystemTime(ViSession Vi, ViInt32* Hour, ViInt32* Minute,
+                                                          ViInt32* Second);
+
+/**
+ * Reads KVTD481X2C_ATTR_TEMPERATURE: the temperature inside the instrument.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. In degC. After a failure: unchanged, but for 0xBFFA0001, which is found after the
+ *               reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViReal64 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SYST:TEMP?`.
+ * Simulated: nothing is sent; 75.0.
+ * @see KVTD481X2C_ATTR_TEMPERATURE
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetTemperature(ViSession Vi, ViReal64* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_TIME_SYNC_MODE: whether the clock is synchronised automatically or set by hand.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. KVTD481X2C_VAL_TIME_SYNC_MODE_AUTO or KVTD481X2C_VAL_TIME_SYNC_MODE_MANUAL. After a
+ *               failure: -1 with 0xBFFA0059, else unchanged, but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0059  the answer is no word of a defined value
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SYST:TIME:SYNC?`.
+ * Simulated: nothing is sent; the value last stored, before that KVTD481X2C_VAL_TIME_SYNC_MODE_AUTO.
+ * @see KVTD481X2C_SetTimeSyncMode, KVTD481X2C_ATTR_TIME_SYNC_MODE
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetTimeSyncMode(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_TIME_SYNC_STATUS: what the clock is synchronised with.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. KVTD481X2C_VAL_TIME_SYNC_STATUS_INTERNET, KVTD481X2C_VAL_TIME_SYNC_STATUS_GPS,
+ *               KVTD481X2C_VAL_TIME_SYNC_STATUS_NONE or KVTD481X2C_VAL_TIME_SYNC_STATUS_NOT_AVAILABLE. After a failure:
+ *               -1 with 0xBFFA0059, else unchanged, but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0059  the answer is no word of a defined value
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SYST:TIME:SYNC:STAT?`.
+ * Simulated: nothing is sent; KVTD481X2C_VAL_TIME_SYNC_STATUS_NOT_AVAILABLE.
+ * @see KVTD481X2C_ATTR_TIME_SYNC_STATUS
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetTimeSyncStatus(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_TIME_ZONE: the time zone of the clock.
+ *
+ * KVTD481X2C_GetTimeZoneCatalog lists the zones that the instrument knows.
+ *
+ * @param Vi          Handle from KVTD481X2C_InitWithOptions.
+ * @param BufferSize  Bytes in Value. 0: returns 4096, which suffices for every text, without a read. Negative: up to
+ *                    4096 bytes are written.
+ * @param Value       Receives the text, terminated, cut to BufferSize. After a failure: what had arrived of it. Not
+ *                    touched, and may be null, when BufferSize is 0.
+ * @return VI_SUCCESS, 4096 when the text was cut or fills BufferSize exactly, or a negative status:
+ *         0xBFFA0058  Value is null and BufferSize is not 0 (the text names AttributeValueBufferSize)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SYST:TIME:ZONE?`.
+ * Simulated: nothing is sent; the value last stored, before that the empty text.
+ * @see KVTD481X2C_SetTimeZone, KVTD481X2C_ATTR_TIME_ZONE
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetTimeZone(ViSession Vi, ViInt32 BufferSize, ViChar Value[]);
+
+/**
+ * Lists the time zones that the instrument knows.
+ *
+ * @param Vi                 Handle from KVTD481X2C_InitWithOptions.
+ * @param CatalogBufferSize  Size of Catalog, terminator included; at least 1.
+ * @param Catalog            The list, as the instrument gives it, cut to the size. After a failure: unchanged, or what
+ *                           had arrived.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Catalog is null
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SYST:TIME:ZONE:CAT?`.
+ * Simulated: returns 0 and leaves Catalog as it was; nothing is sent.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetTimeZoneCatalog(ViSession Vi, ViInt32 CatalogBufferSize,
+                                                               ViChar Catalog[]);
+
+/**
+ * Reads KVTD481X2C_ATTR_TOTAL_MEMORY: the memory of the instrument, in the instrument's own measure.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  Receives the value. After a failure: unchanged, but for 0xBFFA0001, which is found after the reading.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA0058  Value is null (the text names KVTD481X2C_GetAttributeViInt32 and AttributeValue)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:DIAG:MEM?`.
+ * Simulated: nothing is sent; 5000000.
+ * @see KVTD481X2C_ATTR_TOTAL_MEMORY
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetTotalMemory(ViSession Vi, ViInt32* Value);
+
+/**
+ * Reads KVTD481X2C_ATTR_UNIT_NAME: the name that the user has given to this unit.
+ *
+ * @param Vi          Handle from KVTD481X2C_InitWithOptions.
+ * @param BufferSize  Bytes in Value. 0: returns 4096, which suffices for every text, without a read. Negative: up to
+ *                    4096 bytes are written.
+ * @param Value       Receives the text, terminated, cut to BufferSize. After a failure: what had arrived of it. Not
+ *                    touched, and may be null, when BufferSize is 0.
+ * @return VI_SUCCESS, 4096 when the text was cut or fills BufferSize exactly, or a negative status:
+ *         0xBFFA0058  Value is null and BufferSize is not 0 (the text names AttributeValueBufferSize)
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Queries `:SYST:UNIT:NAM?`.
+ * Simulated: nothing is sent; the value last stored, before that the text "0".
+ * @see KVTD481X2C_SetUnitName, KVTD481X2C_ATTR_UNIT_NAME
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetUnitName(ViSession Vi, ViInt32 BufferSize, ViChar Value[]);
+
+/**
+ * Writes KVTD481X2C_ATTR_GPS_ENABLED: whether the GPS receiver is on.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. VI_TRUE or VI_FALSE.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0000  Value is no defined value, or one without a word; nothing is sent
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:SYST:GPS:STAT <Value>`.
+ * Simulated: nothing is converted or sent; the value is stored.
+ * @see KVTD481X2C_GetGpsEnabled, KVTD481X2C_ATTR_GPS_ENABLED
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetGpsEnabled(ViSession Vi, ViBoolean Value);
+
+/**
+ * Sets the date of the instrument's clock.
+ *
+ * The year takes four columns, with blanks in front of a shorter one. The driver checks no range.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Year   The year.
+ * @param Month  The month.
+ * @param Day    The day.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:SYST:DATE %4ld,%ld,%ld`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetSystemDate(ViSession Vi, ViInt32 Year, ViInt32 Month, ViInt32 Day);
+
+/**
+ * Sets the time of the instrument's clock.
+ *
+ * The hour takes four columns, as the year of a date does: three blanks stand before an hour of 7. The driver checks no
+ * range.
+ *
+ * @param Vi      Handle from KVTD481X2C_InitWithOptions.
+ * @param Hour    The hour.
+ * @param Minute  The minute.
+ * @param Second  The second.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:SYST:TIME %4ld,%ld,%ld`.
+ * Simulated: returns 0 and sends nothing.
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetSystemTime(ViSession Vi, ViInt32 Hour, ViInt32 Minute, ViInt32 Second);
+
+/**
+ * Writes KVTD481X2C_ATTR_TIME_SYNC_MODE: whether the clock is synchronised automatically or set by hand.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new value. KVTD481X2C_VAL_TIME_SYNC_MODE_AUTO or KVTD481X2C_VAL_TIME_SYNC_MODE_MANUAL.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0000  Value is no defined value, or one without a word; nothing is sent
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:SYST:TIME:SYNC <Value>`.
+ * Simulated: nothing is converted or sent; the value is stored.
+ * @see KVTD481X2C_GetTimeSyncMode, KVTD481X2C_ATTR_TIME_SYNC_MODE
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetTimeSyncMode(ViSession Vi, ViInt32 Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_TIME_ZONE: the time zone of the clock.
+ *
+ * KVTD481X2C_GetTimeZoneCatalog lists the zones that the instrument knows.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new text, terminated. It is sent as it stands; the driver checks and escapes nothing in it.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:SYST:TIME:ZONE "<Value>"`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetTimeZone, KVTD481X2C_ATTR_TIME_ZONE
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetTimeZone(ViSession Vi, ViConstString Value);
+
+/**
+ * Writes KVTD481X2C_ATTR_UNIT_NAME: the name that the user has given to this unit.
+ *
+ * @param Vi     Handle from KVTD481X2C_InitWithOptions.
+ * @param Value  The new text, terminated. It is sent as it stands; the driver checks and escapes nothing in it.
+ * @return VI_SUCCESS or a negative status:
+ *         0xBFFA1190  Vi is not an open handle (no text is recorded)
+ *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         a VISA status when the exchange fails
+ *
+ * Sends `:SYST:UNIT:NAM "<Value>"`.
+ * Simulated: nothing is sent; the value is stored.
+ * @see KVTD481X2C_GetUnitName, KVTD481X2C_ATTR_UNIT_NAME
+ */
+KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetUnitName(ViSession Vi, ViConstString Value);
 
 /** @} */
 
