@@ -518,6 +518,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetAMSourceEx(ViSession Vi, ViInt32 
  *         0xBFFA000C  the attribute id is not known
  *         0xBFFA0015  the attribute is of another type
  *         0xBFFA000E  the attribute is write-only
+ *         what the attribute's own read or write answers
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetAttributeViBoolean(ViSession Vi, ViConstString RepCapIdentifier,
                                                                   ViAttr AttributeID, ViBoolean* AttributeValue);
@@ -537,6 +538,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetAttributeViBoolean(ViSession Vi, 
  *         0xBFFA000C  the attribute id is not known
  *         0xBFFA0015  the attribute is of another type
  *         0xBFFA000E  the attribute is write-only
+ *         what the attribute's own read or write answers
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetAttributeViInt32(ViSession Vi, ViConstString RepCapIdentifier,
                                                                 ViAttr AttributeID, ViInt32* AttributeValue);
@@ -556,6 +558,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetAttributeViInt32(ViSession Vi, Vi
  *         0xBFFA000C  the attribute id is not known
  *         0xBFFA0015  the attribute is of another type
  *         0xBFFA000E  the attribute is write-only
+ *         what the attribute's own read or write answers
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetAttributeViReal64(ViSession Vi, ViConstString RepCapIdentifier,
                                                                  ViAttr AttributeID, ViReal64* AttributeValue);
@@ -575,6 +578,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetAttributeViReal64(ViSession Vi, V
  *         0xBFFA000C  the attribute id is not known
  *         0xBFFA0015  the attribute is of another type
  *         0xBFFA000E  the attribute is write-only
+ *         what the attribute's own read or write answers
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetAttributeViSession(ViSession Vi, ViConstString RepCapIdentifier,
                                                                   ViAttr AttributeID, ViSession* AttributeValue);
@@ -598,6 +602,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetAttributeViSession(ViSession Vi, 
  *         0xBFFA0015  the attribute is of another type
  *         0xBFFA000E  the attribute is write-only
  *         0xBFFA0058  AttributeValue is null and AttributeValueBufferSize is not 0
+ *         what the attribute's own read or write answers
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetAttributeViString(ViSession Vi, ViConstString RepCapIdentifier,
                                                                  ViAttr AttributeID, ViInt32 AttributeValueBufferSize,
@@ -615,6 +620,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetAttributeViString(ViSession Vi, V
  *         0xBFFA000C  the attribute id is not known
  *         0xBFFA0015  the attribute is of another type
  *         0xBFFA000D  the attribute is read-only
+ *         what the attribute's own read or write answers
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetAttributeViBoolean(ViSession Vi, ViConstString RepCapIdentifier,
                                                                   ViAttr AttributeID, ViBoolean AttributeValue);
@@ -631,6 +637,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetAttributeViBoolean(ViSession Vi, 
  *         0xBFFA000C  the attribute id is not known
  *         0xBFFA0015  the attribute is of another type
  *         0xBFFA000D  the attribute is read-only
+ *         what the attribute's own read or write answers
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetAttributeViInt32(ViSession Vi, ViConstString RepCapIdentifier,
                                                                 ViAttr AttributeID, ViInt32 AttributeValue);
@@ -649,6 +656,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetAttributeViInt32(ViSession Vi, Vi
  *         0xBFFA000C  the attribute id is not known
  *         0xBFFA0015  the attribute is of another type
  *         0xBFFA000D  the attribute is read-only
+ *         what the attribute's own read or write answers
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetAttributeViReal64(ViSession Vi, ViConstString RepCapIdentifier,
                                                                  ViAttr AttributeID, ViReal64 AttributeValue);
@@ -667,6 +675,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetAttributeViReal64(ViSession Vi, V
  *         0xBFFA000C  the attribute id is not known
  *         0xBFFA0015  the attribute is of another type
  *         0xBFFA000D  the attribute is read-only
+ *         what the attribute's own read or write answers
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetAttributeViSession(ViSession Vi, ViConstString RepCapIdentifier,
                                                                   ViAttr AttributeID, ViSession AttributeValue);
@@ -683,6 +692,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetAttributeViSession(ViSession Vi, 
  *         0xBFFA000C  the attribute id is not known
  *         0xBFFA0015  the attribute is of another type
  *         0xBFFA000D  the attribute is read-only
+ *         what the attribute's own read or write answers
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetAttributeViString(ViSession Vi, ViConstString RepCapIdentifier,
                                                                  ViAttr AttributeID, ViConstString AttributeValue);
@@ -774,6 +784,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetIOTimeout(ViSession Vi, ViInt32 V
  * @return VI_SUCCESS or a negative status:
  *         0xBFFA1190  Vi is not an open handle (no text is recorded)
  *         0xBFFA4214  the session is simulated
+ *         a VISA status when the exchange fails
  *
  * Simulated: refused with 0xBFFA4214.
  */
@@ -791,6 +802,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_viRead(ViSession Vi, ViInt64 Count, 
  * @return VI_SUCCESS or a negative status:
  *         0xBFFA1190  Vi is not an open handle (no text is recorded)
  *         0xBFFA4214  the session is simulated
+ *         a VISA status when the exchange fails
  *
  * Simulated: refused with 0xBFFA4214.
  */
@@ -1520,9 +1532,9 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_error_message(ViSession Vi, ViStatus
  * @param ErrorMessage  The instrument's text. A buffer of 256 characters.
  * @return VI_SUCCESS or a negative status:
  *         0xBFFA1190  Vi is not an open handle (no text is recorded)
- *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
  *         0xBFFA0058  ErrorCode or ErrorMessage is null; found before the session is locked
  *         0xBFFA0059  the answer has no comma
+ *         0xBFFA0001  never from this call: the query is the check
  *         a VISA status when the exchange fails
  *
  * Queries `:SYST:ERR?`.
@@ -6462,9 +6474,10 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetLanHostname(ViSession Vi, ViConst
 /**
  * Sets the network configuration that holds without DHCP.
  *
- * The command is put together piece by piece and has one, two or three texts: an empty Second ends it, and Third is
- * then dropped without a word. A Second of blanks is not empty and goes out as two quotes. What the three mean is the
- * instrument's to say. A refusal stays in its error queue until a later status check meets it.
+ * The command is put together first and goes out as one text: `:SYST:COMM:LAN:CONF "<First>"`, then `,"<Second>"` if
+ * Second is not empty, then `,"<Third>"` if Third is not empty either. A Third behind an empty Second is dropped
+ * without a word; a Second of blanks is not empty and goes out as two quotes. What the three mean is the instrument's
+ * to say. A refusal stays in its error queue until a later status check meets it.
  *
  * @param Vi      Handle from KVTD481X2C_InitWithOptions.
  * @param First   The first text. Not null.
@@ -6475,8 +6488,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetLanHostname(ViSession Vi, ViConst
  *         0xBFFA0001  never from this call: no status check follows it
  *         a VISA status when the exchange fails
  *
- * Sends `%s`, `:SYST:COMM:LAN:CONF "<First>"`, `:SYST:COMM:LAN:CONF "<First>","<Second>"`, `:SYST:COMM:LAN:CONF
- * "<First>","<Second>","<Third>"`.
+ * Sends `%s`.
  * Simulated: returns 0 and sends nothing.
  */
 KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetStaticLanConfiguration(ViSession Vi, ViConstString First,
@@ -7167,7 +7179,8 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_reset(ViSession Vi);
  * 2000 ms, which is put back on every path.
  *
  * @param Vi           Handle from KVTD481X2C_InitWithOptions.
- * @param TestResult   0 for a passed test, else the instrument's number.
+ * @param TestResult   0 for a passed test, else the instrument's number. After a failure: unchanged, or what had
+ *                     arrived.
  * @param TestMessage  "Selftest passed" or "Selftest failed". A buffer of 256 characters; not written after a failure.
  * @return VI_SUCCESS or a negative status:
  *         0xBFFA0058  one of TestResult, TestMessage is null
@@ -7318,7 +7331,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetNextInterchangeWarning(ViSession 
  * @param IdQuery       VI_TRUE refuses an unknown model; other values do not test it.
  * @param Reset         Anything but VI_FALSE resets the instrument.
  * @param OptionString  The options, or an empty text. Not null.
- * @param Vi            The handle of the new session, or 0 where nothing was opened.
+ * @param Vi            The handle of the new session; after a failure 0, or open where the failure came late.
  * @return VI_SUCCESS or a negative status:
  *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
  *         0xBFFA0058  Vi is null; nothing is recorded
@@ -7410,7 +7423,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_close(ViSession Vi);
  * @param ResourceName  A VISA resource or a logical name. Not null.
  * @param IdQuery       VI_TRUE refuses an unknown model; other values do not test it.
  * @param Reset         Anything but VI_FALSE resets the instrument.
- * @param Vi            The handle of the new session; see KVTD481X2C_InitWithOptions. After a failure: unchanged.
+ * @param Vi            The handle of the new session; after a failure 0, or open where the failure came late.
  * @return VI_SUCCESS or a negative status:
  *         as KVTD481X2C_InitWithOptions
  *
