@@ -1,0 +1,37 @@
+// The generator proper: its settings and what follows from them. It knows nothing of messages.
+#pragma once
+
+#include "model/settings.h"
+#include "model/variant.h"
+#include "scpi/status.h"
+
+namespace siggen::model {
+
+class Generator {
+ public:
+  Generator(const Variant& variant, scpi::Status& status);
+
+  const Variant& variant() const { return variant_; }
+  Settings now;
+
+  void Reset();
+  void Load(const Settings& settings);
+
+  scpi::Limits FrequencyLimits(double usual) const { return {kLowestFrequency, variant_.highest_frequency, usual}; }
+  // The level as it is shown: the display offset, when on, counts.
+  double shown_offset() const { return now.power.offset_on ? now.power.offset : 0.0; }
+  double highest_level() const;
+  double attenuation() const;
+
+  // Trips the reverse power protection, as a transmitter at the output connector would: the output goes off.
+  void TripProtection();
+  void ClearProtection();
+  bool protection_tripped() const { return protection_tripped_; }
+
+ private:
+  Variant variant_;
+  scpi::Status& status_;
+  bool protection_tripped_ = false;
+};
+
+}  // namespace siggen::model

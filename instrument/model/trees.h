@@ -1,0 +1,23 @@
+// One function per subsystem of the command set, each in a file of its name.
+#pragma once
+
+#include "scpi/commands.h"
+
+namespace siggen::scpi {
+class Status;
+}
+
+namespace siggen::model {
+
+class Generator;
+class Instrument;
+
+void AddCommon(scpi::Commands& commands, Instrument& instrument);
+void AddFrequency(scpi::Commands& commands, Generator& generator);
+void AddPower(scpi::Commands& commands, Generator& generator);
+void AddOutput(scpi::Commands& commands, Generator& generator);
+void AddUnit(scpi::Commands& commands, Generator& generator);
+void AddStatus(scpi::Commands& commands, scpi::Status& status);
+void AddSystem(scpi::Commands& commands, Instrument& instrument);
+
+}  // namespace siggen::model
