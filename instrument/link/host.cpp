@@ -1,0 +1,169 @@
+#include "link/host.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <asio/buffer.hpp>
+#include <asio/executor_work_guard.hpp>
+#include <asio/ip/address.hpp>
+#include <asio/ip/tcp.hpp>
+#include <asio/posix/stream_descriptor.hpp>
+#include <asio/post.hpp>
+#include <asio/read_until.hpp>
+#include <asio/signal_set.hpp>
+#include <asio/steady_timer.hpp>
+#include <csignal>
+#include <future>
+#include <iostream>
+
+#include "link/console.h"
+#include "link/services.h"
+#include "link/socket_link.h"
+
+namespace siggen::link {
+
+using asio::ip::tcp;
+
+class Host::Impl : public Services {
+ public:
+  explicit Impl(HostOptions options)
+      : instrument_(options.identity), acceptor_(io_), timer_(io_), signals_(io_), stdin_(io_) {
+    for (const Fault& fault : options.faults) faults_.Add(fault);
+    if (options.socket_port) Listen(options.address, *options.socket_port);
+    if (options.end_on_signals) {
+      signals_.add(SIGINT);
+      signals_.add(SIGTERM);
+      signals_.async_wait([this](const asio::error_code& problem, int) {
+        if (!problem) Stop();
+      });
+    }
+    if (options.end_with_stdin) {
+      stdin_.assign(::dup(STDIN_FILENO));
+      ReadStdin();
+    }
+  }
+
+  asio::io_context& io() override { return io_; }
+  model::Instrument& instrument() override { return instrument_; }
+  FaultPlan& faults() override { return faults_; }
+  const std::vector<Listener>& listeners() const { return listeners_; }
+
+  void Worked() override {
+    instrument_.CatchUp();
+    if (!instrument_.operations_pending()) {
+      ForEachLink([this](const std::shared_ptr<Link>& link) {
+        if (link->waiting()) asio::post(io_, [link] { link->Pump(); });
+      });
+    }
+    timer_.cancel();
+    const auto next = instrument_.next_event();
+    if (!next) return;
+    timer_.expires_at(*next);
+    timer_.async_wait([this](const asio::error_code& problem) {
+      if (!problem) Worked();
+    });
+  }
+
+  void Stop() {
+    asio::post(io_, [this] {
+      asio::error_code ignored;
+      acceptor_.close(ignored);
+      signals_.cancel(ignored);
+      stdin_.close(ignored);
+      timer_.cancel();
+      CloseLinks();
+      io_.stop();
+    });
+  }
+
+ private:
+  void Listen(const std::string& address, std::uint16_t port) {
+    const tcp::endpoint endpoint(asio::ip::make_address(address), port);
+    acceptor_.open(endpoint.protocol());
+    acceptor_.set_option(tcp::acceptor::reuse_address(true));
+    acceptor_.bind(endpoint);
+    acceptor_.listen();
+    listeners_.push_back({"socket", address, acceptor_.local_endpoint().port()});
+    Accept();
+  }
+
+  void Accept() {
+    acceptor_.async_accept([this](const asio::error_code& problem, tcp::socket socket) {
+      if (!acceptor_.is_open()) return;
+      if (!problem) {
+        auto link = std::make_shared<SocketLink>(std::move(socket), *this);
+        std::erase_if(links_, [](const std::weak_ptr<Link>& old) { return old.expired(); });
+        links_.push_back(link);
+        link->Start();
+      }
+      Accept();
+    });
+  }
+
+  void ForEachLink(const std::function<void(const std::shared_ptr<Link>&)>& work) {
+    for (const auto& weak : std::vector(links_)) {
+      if (const auto link = weak.lock()) work(link);
+    }
+  }
+
+  void CloseLinks() {
+    ForEachLink([](const std::shared_ptr<Link>& link) { link->Close(); });
+    links_.clear();
+  }
+
+  void ReadStdin() {
+    asio::async_read_until(stdin_, asio::dynamic_buffer(typed_, 4096), '\n',
+                           [this](const asio::error_code& problem, std::size_t length) {
+                             if (problem == asio::error::operation_aborted) return;
+                             if (problem) return Stop();
+                             const std::string line = typed_.substr(0, length - 1);
+                             typed_.erase(0, length);
+                             if (!CarryOut(line, instrument_, faults_)) {
+                               std::cerr << "not understood: " << line << std::endl;
+                             }
+                             Worked();
+                             ReadStdin();
+                           });
+  }
+
+  asio::io_context io_;
+  model::Instrument instrument_;
+  FaultPlan faults_;
+  std::vector<Listener> listeners_;
+  std::vector<std::weak_ptr<Link>> links_;
+  tcp::acceptor acceptor_;
+  asio::steady_timer timer_;
+  asio::signal_set signals_;
+  asio::posix::stream_descriptor stdin_;
+  std::string typed_;
+};
+
+Host::Host(HostOptions options) : impl_(std::make_unique<Impl>(std::move(options))) {}
+Host::~Host() = default;
+
+const std::vector<Listener>& Host::listeners() const { return impl_->listeners(); }
+void Host::Run() {
+  const auto keep = asio::make_work_guard(impl_->io());
+  impl_->io().run();
+}
+void Host::Stop() { impl_->Stop(); }
+
+void Host::Inject(const Fault& fault) {
+  With([this, fault](model::Instrument&) { impl_->faults().Add(fault); });
+}
+
+void Host::ClearFaults() {
+  With([this](model::Instrument&) { impl_->faults().Clear(); });
+}
+
+void Host::With(const std::function<void(model::Instrument&)>& work) {
+  std::promise<void> done;
+  asio::post(impl_->io(), [this, &work, &done] {
+    work(impl_->instrument());
+    impl_->Worked();
+    done.set_value();
+  });
+  done.get_future().wait();
+}
+
+}  // namespace siggen::link
