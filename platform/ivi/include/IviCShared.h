@@ -27,13 +27,13 @@ extern "C" {
 #define IVI_ERROR_CANNOT_CREATE_THREAD_LOCAL ((ViStatus)0xBFFA11A0u)
 
 /** Creates a session without a data pointer, a lock holder or an error. *handle is 0 when it fails. */
-ViStatus _VI_FUNC IviSession_New(ViSession *handle);
+ViStatus _VI_FUNC IviSession_New(ViSession* handle);
 
 /** Stores one pointer, null allowed; the component never looks at what it points to. */
 ViStatus _VI_FUNC IviSession_SetDataPtr(ViSession handle, ViAddr dataPtr);
 
 /** Returns the pointer last stored, null before that. A refused handle leaves *dataPtr alone. Takes no lock. */
-ViStatus _VI_FUNC IviSession_GetDataPtr(ViSession handle, ViAddr *dataPtr);
+ViStatus _VI_FUNC IviSession_GetDataPtr(ViSession handle, ViAddr* dataPtr);
 
 /**
  * Takes the session's lock, waiting without limit for other threads; nests on the owning thread.
@@ -41,7 +41,7 @@ ViStatus _VI_FUNC IviSession_GetDataPtr(ViSession handle, ViAddr *dataPtr);
  * @param hasLock  Null: always takes one level. Otherwise *hasLock says whether the caller's function already has its
  *                 level: true does nothing, false takes one and becomes true.
  */
-ViStatus _VI_FUNC IviSession_Lock(ViSession handle, ViBoolean *hasLock);
+ViStatus _VI_FUNC IviSession_Lock(ViSession handle, ViBoolean* hasLock);
 
 /**
  * Gives one level of the session's lock back.
@@ -50,7 +50,7 @@ ViStatus _VI_FUNC IviSession_Lock(ViSession handle, ViBoolean *hasLock);
  *                 nothing.
  * @return IVI_ERROR_CANNOT_RECOVER when the calling thread does not own the lock, which stays as it is.
  */
-ViStatus _VI_FUNC IviSession_Unlock(ViSession handle, ViBoolean *hasLock);
+ViStatus _VI_FUNC IviSession_Unlock(ViSession handle, ViBoolean* hasLock);
 
 /**
  * Replaces the session's error and the calling thread's. The text is copied; null counts as empty. A handle that does
@@ -65,7 +65,7 @@ ViStatus _VI_FUNC IviSession_SetError(ViSession handle, ViStatus code, ViConstSt
  * @param code         May be null. VI_SUCCESS when there is no error.
  * @param description  Empty when there is no error.
  */
-ViStatus _VI_FUNC IviSession_GetError(ViSession handle, ViInt32 bufferSize, ViStatus *code, ViChar description[]);
+ViStatus _VI_FUNC IviSession_GetError(ViSession handle, ViInt32 bufferSize, ViStatus* code, ViChar description[]);
 
 /** Forgets the session's error, with handle 0 the calling thread's. */
 ViStatus _VI_FUNC IviSession_ClearError(ViSession handle);

@@ -75,7 +75,7 @@ extern "C" {
 #define IVICONFIG_PROP_DATA_COMPONENT_UNITS 10
 
 /* One type under many names: a driver session stands in for a session, and either for a component. */
-typedef void *IviConfigHandle;
+typedef void* IviConfigHandle;
 typedef IviConfigHandle IviConfigStoreHandle;
 typedef IviConfigHandle IviConfigComponentHandle;
 typedef IviConfigHandle IviSessionHandle;
@@ -93,7 +93,7 @@ typedef IviConfigHandle IviDataComponentHandle;
 typedef IviConfigHandle IviDataComponentCollectionHandle;
 
 /** Creates a store object without content. Each takes one IviConfig_Close. */
-ViStatus _VI_FUNC IviConfig_Initialize(IviConfigStoreHandle *store);
+ViStatus _VI_FUNC IviConfig_Initialize(IviConfigStoreHandle* store);
 ViStatus _VI_FUNC IviConfig_Close(IviConfigStoreHandle store);
 
 /** Gives a handle back. A store handle is refused: it goes to IviConfig_Close. */
@@ -123,10 +123,10 @@ ViStatus _VI_FUNC IviConfig_Serialize(IviConfigStoreHandle store, ViConstString 
  * itself. Names compare byte for byte. IVICONFIG_ERROR_SESSION_NOT_FOUND when there is neither.
  */
 ViStatus _VI_FUNC IviConfig_GetDriverSession(IviConfigStoreHandle store, ViConstString name,
-                                             IviDriverSessionHandle *session);
+                                             IviDriverSessionHandle* session);
 
 /** The same over sessions of every kind; a driver session found here may be used as one. */
-ViStatus _VI_FUNC IviConfig_GetSession(IviConfigStoreHandle store, ViConstString name, IviSessionHandle *session);
+ViStatus _VI_FUNC IviConfig_GetSession(IviConfigStoreHandle store, ViConstString name, IviSessionHandle* session);
 
 /** Properties 1 to 7. */
 ViStatus _VI_FUNC IviConfig_GetConfigStorePropertyViString(IviConfigStoreHandle store, ViInt32 property,
@@ -140,70 +140,70 @@ ViStatus _VI_FUNC IviConfig_SetConfigStorePropertyViString(IviConfigStoreHandle 
                                                            ViConstString value);
 
 /** Properties 8 and 9. */
-ViStatus _VI_FUNC IviConfig_GetConfigStorePropertyViInt32(IviConfigStoreHandle store, ViInt32 property, ViInt32 *value);
+ViStatus _VI_FUNC IviConfig_GetConfigStorePropertyViInt32(IviConfigStoreHandle store, ViInt32 property, ViInt32* value);
 
 ViStatus _VI_FUNC IviConfig_GetConfigStoreSoftwareModuleCollection(IviConfigStoreHandle store,
-                                                                   IviSoftwareModuleCollectionHandle *collection);
+                                                                   IviSoftwareModuleCollectionHandle* collection);
 /** IVICONFIG_ERROR_NOT_EXIST when no module bears the name. */
 ViStatus _VI_FUNC IviConfig_GetSoftwareModuleItemByName(IviSoftwareModuleCollectionHandle collection,
-                                                        ViConstString name, IviSoftwareModuleHandle *item);
+                                                        ViConstString name, IviSoftwareModuleHandle* item);
 
 /** IVICONFIG_ERROR_NOT_IN_GLOBAL when the session refers to no software module, as after its uninstallation. */
 ViStatus _VI_FUNC IviConfig_GetSessionSoftwareModuleReference(IviSessionHandle session,
-                                                              IviSoftwareModuleHandle *module);
+                                                              IviSoftwareModuleHandle* module);
 /** A session without a hardware asset gives a null handle and VI_SUCCESS. */
-ViStatus _VI_FUNC IviConfig_GetSessionHardwareAssetReference(IviSessionHandle session, IviHardwareAssetHandle *asset);
+ViStatus _VI_FUNC IviConfig_GetSessionHardwareAssetReference(IviSessionHandle session, IviHardwareAssetHandle* asset);
 
 /** Properties 1 to 3. */
 ViStatus _VI_FUNC IviConfig_GetHardwareAssetPropertyViString(IviHardwareAssetHandle asset, ViInt32 property,
                                                              ViInt32 bufferSize, ViChar value[]);
 /** Properties 4 to 9. */
 ViStatus _VI_FUNC IviConfig_GetDriverSessionPropertyViBoolean(IviDriverSessionHandle session, ViInt32 property,
-                                                              ViBoolean *value);
+                                                              ViBoolean* value);
 /** Properties 1 to 3 and 10. */
 ViStatus _VI_FUNC IviConfig_GetDriverSessionPropertyViString(IviDriverSessionHandle session, ViInt32 property,
                                                              ViInt32 bufferSize, ViChar value[]);
 
 ViStatus _VI_FUNC IviConfig_GetSessionVirtualNameCollection(IviSessionHandle session,
-                                                            IviVirtualNameCollectionHandle *collection);
-ViStatus _VI_FUNC IviConfig_GetVirtualNameCount(IviVirtualNameCollectionHandle collection, ViInt32 *count);
+                                                            IviVirtualNameCollectionHandle* collection);
+ViStatus _VI_FUNC IviConfig_GetVirtualNameCount(IviVirtualNameCollectionHandle collection, ViInt32* count);
 /** By index, here and below: IVICONFIG_ERROR_NOT_EXIST outside 1 to the count. */
 ViStatus _VI_FUNC IviConfig_GetVirtualNameItemByIndex(IviVirtualNameCollectionHandle collection, ViInt32 index,
-                                                      IviVirtualNameHandle *item);
+                                                      IviVirtualNameHandle* item);
 /** Properties 1 and 2. */
 ViStatus _VI_FUNC IviConfig_GetVirtualNamePropertyViString(IviVirtualNameHandle item, ViInt32 property,
                                                            ViInt32 bufferSize, ViChar value[]);
 
 ViStatus _VI_FUNC IviConfig_GetVirtualNameVirtualRangeCollection(IviVirtualNameHandle item,
-                                                                 IviVirtualRangeCollectionHandle *collection);
-ViStatus _VI_FUNC IviConfig_GetVirtualRangeCount(IviVirtualRangeCollectionHandle collection, ViInt32 *count);
+                                                                 IviVirtualRangeCollectionHandle* collection);
+ViStatus _VI_FUNC IviConfig_GetVirtualRangeCount(IviVirtualRangeCollectionHandle collection, ViInt32* count);
 ViStatus _VI_FUNC IviConfig_GetVirtualRangeItemByIndex(IviVirtualRangeCollectionHandle collection, ViInt32 index,
-                                                       IviVirtualRangeHandle *item);
+                                                       IviVirtualRangeHandle* item);
 /** Properties 2 to 4. */
 ViStatus _VI_FUNC IviConfig_GetVirtualRangePropertyViInt32(IviVirtualRangeHandle item, ViInt32 property,
-                                                           ViInt32 *value);
+                                                           ViInt32* value);
 
 ViStatus _VI_FUNC IviConfig_GetSoftwareModulePhysicalNameCollection(IviSoftwareModuleHandle module,
-                                                                    IviPhysicalNameCollectionHandle *collection);
-ViStatus _VI_FUNC IviConfig_GetPhysicalNameCount(IviPhysicalNameCollectionHandle collection, ViInt32 *count);
+                                                                    IviPhysicalNameCollectionHandle* collection);
+ViStatus _VI_FUNC IviConfig_GetPhysicalNameCount(IviPhysicalNameCollectionHandle collection, ViInt32* count);
 ViStatus _VI_FUNC IviConfig_GetPhysicalNameItemByIndex(IviPhysicalNameCollectionHandle collection, ViInt32 index,
-                                                       IviPhysicalNameHandle *item);
+                                                       IviPhysicalNameHandle* item);
 /** Properties 1 and 2. */
 ViStatus _VI_FUNC IviConfig_GetPhysicalNamePropertyViString(IviPhysicalNameHandle item, ViInt32 property,
                                                             ViInt32 bufferSize, ViChar value[]);
 
 /** The component is a software module, a hardware asset, a session or a driver session. */
 ViStatus _VI_FUNC IviConfig_GetConfigComponentDataComponentCollection(IviConfigComponentHandle component,
-                                                                      IviDataComponentCollectionHandle *collection);
+                                                                      IviDataComponentCollectionHandle* collection);
 /** IVICONFIG_ERROR_NOT_EXIST when no data component of the collection bears the name. */
 ViStatus _VI_FUNC IviConfig_GetDataComponentItemByName(IviDataComponentCollectionHandle collection, ViConstString name,
-                                                       IviDataComponentHandle *item);
+                                                       IviDataComponentHandle* item);
 /** IVICONFIG_ERROR_INVALID_DATA_COMPONENT when the data component is no structure. */
 ViStatus _VI_FUNC IviConfig_GetStructureDataComponentCollection(IviDataComponentHandle structure,
-                                                                IviDataComponentCollectionHandle *collection);
-ViStatus _VI_FUNC IviConfig_GetDataComponentCount(IviDataComponentCollectionHandle collection, ViInt32 *count);
+                                                                IviDataComponentCollectionHandle* collection);
+ViStatus _VI_FUNC IviConfig_GetDataComponentCount(IviDataComponentCollectionHandle collection, ViInt32* count);
 ViStatus _VI_FUNC IviConfig_GetDataComponentItemByIndex(IviDataComponentCollectionHandle collection, ViInt32 index,
-                                                        IviDataComponentHandle *item);
+                                                        IviDataComponentHandle* item);
 
 /**
  * Properties of a data component. The value (9) is read by the function of the component's type, and asking for it by
@@ -213,11 +213,11 @@ ViStatus _VI_FUNC IviConfig_GetDataComponentItemByIndex(IviDataComponentCollecti
 ViStatus _VI_FUNC IviConfig_GetDataComponentPropertyViString(IviDataComponentHandle item, ViInt32 property,
                                                              ViInt32 bufferSize, ViChar value[]);
 ViStatus _VI_FUNC IviConfig_GetDataComponentPropertyViInt32(IviDataComponentHandle item, ViInt32 property,
-                                                            ViInt32 *value);
+                                                            ViInt32* value);
 ViStatus _VI_FUNC IviConfig_GetDataComponentPropertyViReal64(IviDataComponentHandle item, ViInt32 property,
-                                                             ViReal64 *value);
+                                                             ViReal64* value);
 ViStatus _VI_FUNC IviConfig_GetDataComponentPropertyViBoolean(IviDataComponentHandle item, ViInt32 property,
-                                                              ViBoolean *value);
+                                                              ViBoolean* value);
 
 #if defined(__cplusplus)
 }
