@@ -1,5 +1,7 @@
 // Handles of the configuration component: kinds, generations, garbage, and many threads at once.
+#include <algorithm>
 #include <array>
+#include <cstdint>
 #include <thread>
 #include <vector>
 

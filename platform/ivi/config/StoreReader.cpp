@@ -21,7 +21,7 @@ class StoreReader {
 
   Model Read() {
     CollectIds(root_);
-    CheckReferences(root_);
+    CheckReferences();
     model_.identity = {read_.Text(root_, "Name"),
                        read_.Text(root_, "Description"),
                        read_.Text(root_, "Vendor"),
@@ -51,22 +51,21 @@ class StoreReader {
 
   // Recursion is bounded: the text was refused if it is nested too deep.
   void CollectIds(pugi::xml_node parent) {
-    for (const pugi::xml_node child : parent.children()) {
+    for (pugi::xml_node child = parent.first_child(); child; child = child.next_sibling()) {
+      if (child.type() != pugi::node_element) continue;
       const char* id = child.attribute("id").value();
       if (*id != '\0' && !element_of_id_.emplace(id, child).second) {
         read_.Reject(child, "the id '" + std::string(id) + "' is given a second time");
       }
+      if (child.attribute("idref")) references_.push_back(child);
       CollectIds(child);
     }
   }
 
-  void CheckReferences(pugi::xml_node parent) const {
-    for (const pugi::xml_node child : parent.children()) {
-      const pugi::xml_attribute idref = child.attribute("idref");
-      if (idref && !element_of_id_.contains(idref.value())) {
-        read_.Reject(child, "no element has the id '" + std::string(idref.value()) + "'");
-      }
-      CheckReferences(child);
+  void CheckReferences() const {
+    for (const pugi::xml_node reference : references_) {
+      const char* id = reference.attribute("idref").value();
+      if (!element_of_id_.contains(id)) read_.Reject(reference, "no element has the id '" + std::string(id) + "'");
     }
   }
 
@@ -102,9 +101,14 @@ class StoreReader {
     return found->second;
   }
 
-  void CheckName(Names& names, pugi::xml_node element, const std::string& name) const {
+  std::string NameOf(pugi::xml_node element) const {
+    std::string name = read_.Text(element, "Name");
     if (name.empty()) read_.Reject(element, "has no name");
-    if (!names.insert(name).second) read_.Reject(element, "the name '" + name + "' is given a second time");
+    return name;
+  }
+
+  [[noreturn]] void RejectSecond(pugi::xml_node element, const std::string& name) const {
+    read_.Reject(element, "the name '" + name + "' is given a second time");
   }
 
   std::vector<DataComponent> DataComponents(pugi::xml_node parent) const {
@@ -177,8 +181,8 @@ class StoreReader {
     for (const pugi::xml_node element : section.children("IviSoftwareModule")) {
       if (!IsObject(element)) continue;
       SoftwareModule& module = model_.software_modules.emplace_back();
-      module.name = read_.Text(element, "Name");
-      CheckName(names, element, module.name);
+      module.name = NameOf(element);
+      if (!names.insert(module.name).second) RejectSecond(element, module.name);
       module.data_components = DataComponents(element);
       for (const pugi::xml_node name : read_.Child(element, "PhysicalNames").children("IviPhysicalName")) {
         module.physical_names.push_back({read_.Text(name, "Name"), read_.Text(name, "RCName")});
@@ -194,8 +198,8 @@ class StoreReader {
     for (const pugi::xml_node element : section.children("IviHardwareAsset")) {
       if (!IsObject(element)) continue;
       HardwareAsset& asset = model_.hardware_assets.emplace_back();
-      asset.name = read_.Text(element, "Name");
-      CheckName(names, element, asset.name);
+      asset.name = NameOf(element);
+      if (!names.insert(asset.name).second) RejectSecond(element, asset.name);
       asset.description = read_.Text(element, "Description");
       asset.resource_descriptor = read_.Text(element, "IOResourceDescriptor");
       asset.data_components = DataComponents(element);
@@ -204,7 +208,7 @@ class StoreReader {
   }
 
   void ReadSession(pugi::xml_node element, Session& session) const {
-    session.name = read_.Text(element, "Name");
+    session.name = NameOf(element);
     session.description = read_.Text(element, "Description");
     session.software_module_name = read_.Text(element, "SoftwareModuleName");
     session.virtual_names = VirtualNames(element);
@@ -215,8 +219,7 @@ class StoreReader {
 
   template <typename Kind>
   void AddSession(pugi::xml_node element, const Kind& session) {
-    CheckName(session_names_, element, session.name);
-    model_.session_of_name.emplace(session.name, &session);
+    if (!model_.session_of_name.emplace(session.name, &session).second) RejectSecond(element, session.name);
     session_of_id_.emplace(element.attribute("id").value(), &session);
   }
 
@@ -256,8 +259,8 @@ class StoreReader {
     Names names;
     for (const pugi::xml_node element : section.children("IviLogicalName")) {
       if (!IsObject(element)) continue;
-      const std::string& name = model_.names_of_logical_names.emplace_back(read_.Text(element, "Name"));
-      CheckName(names, element, name);
+      const std::string& name = model_.names_of_logical_names.emplace_back(NameOf(element));
+      if (!names.insert(name).second) RejectSecond(element, name);
       pugi::xml_node reference = ReferenceTo(element, "IviDriverSession");
       if (!reference) reference = ReferenceTo(element, "IviSession");
       const AnySession session = Referred(reference, session_of_id_, "session");
@@ -272,10 +275,10 @@ class StoreReader {
   Model model_;
 
   std::unordered_map<std::string_view, pugi::xml_node> element_of_id_;
+  std::vector<pugi::xml_node> references_;
   std::unordered_map<std::string_view, const SoftwareModule*> module_of_id_;
   std::unordered_map<std::string_view, const HardwareAsset*> asset_of_id_;
   std::unordered_map<std::string_view, AnySession> session_of_id_;
-  Names session_names_;
 };
 
 }  // namespace

@@ -12,6 +12,14 @@ constexpr std::size_t kDeepest = 64;
 // have about two hundred thousand.
 constexpr std::size_t kMostNodes = 2'000'000;
 
+// The bytes that are a character by themselves.
+constexpr std::array<bool, 256> kPlain = [] {
+  std::array<bool, 256> plain{};
+  for (std::size_t byte = 0x20; byte < 0x80; ++byte) plain[byte] = true;
+  plain['\t'] = plain['\n'] = plain['\r'] = true;
+  return plain;
+}();
+
 class TextCheck {
  public:
   explicit TextCheck(const StoreSource& source) : source_(source), text_(source.text) {}
@@ -36,12 +44,12 @@ class TextCheck {
     if (At("\xFF\xFE") || At("\xFE\xFF")) Reject(0, "the file is UTF-16; a configuration store is read as UTF-8");
     for (std::size_t i = 0; i < text_.size();) {
       const auto byte = static_cast<unsigned char>(text_[i]);
-      if (byte >= 0x80) {
-        i += SequenceLength(i);
-      } else if (byte < 0x20 && byte != '\t' && byte != '\n' && byte != '\r') {
-        Reject(i, "a control character that XML does not allow");
-      } else {
+      if (kPlain[byte]) {
         ++i;
+      } else if (byte >= 0x80) {
+        i += SequenceLength(i);
+      } else {
+        Reject(i, "a control character that XML does not allow");
       }
     }
   }
@@ -86,7 +94,7 @@ class TextCheck {
     const std::size_t start = position_++;
     const bool closing = At("/");
     for (;;) {
-      position_ = std::min(text_.find_first_of("<>\"'", position_), text_.size());
+      while (position_ < text_.size() && !EndsTagText(text_[position_])) ++position_;
       if (position_ == text_.size() || text_[position_] == '<') Reject(start, "a tag without end");
       const char found = text_[position_++];
       if (found == '>') break;
@@ -102,6 +110,8 @@ class TextCheck {
     if (depth_ == kDeepest) Reject(start, "elements nested more than 64 deep");
     if (!empty) ++depth_;
   }
+
+  static bool EndsTagText(char c) { return c == '<' || c == '>' || c == '"' || c == '\''; }
 
   void AttributeValue(char quote) {
     const std::size_t end = text_.find(quote, position_);
