@@ -1,0 +1,120 @@
+// A double below 2^63 is a whole number of at most 63 bits and a fraction of at most 53 significant bits. The fraction
+// times 10^places therefore fits an integer of 128 bits exactly, and the digits are one multiplication, one shift and
+// one comparison for the rounding away. std::to_chars serves every magnitude up to 1e308 and pays for it with tables of
+// powers.
+#include "format/fixed_point.h"
+
+#include <array>
+#include <bit>
+#include <cstdint>
+#include <cstring>
+
+namespace tvr::visa {
+namespace {
+
+// Standard C++ has no integer of this width; both compilers do, and spell it so in every mode.
+__extension__ using Wide = unsigned __int128;
+
+constexpr std::array<std::uint64_t, 20> kPowersOfTen = [] {
+  std::array<std::uint64_t, 20> powers{1};
+  for (std::size_t i = 1; i < powers.size(); ++i) powers[i] = powers[i - 1] * 10;
+  return powers;
+}();
+
+// Eight digits of a number below 10^8 as text in one register, the first digit in the lowest byte: halves, then
+// quarters, then single digits are split off in parallel lanes.
+std::uint64_t EightDigits(std::uint32_t value) {
+  const std::uint64_t halves = value / 10000 | (static_cast<std::uint64_t>(value % 10000) << 32);
+  const std::uint64_t high_pairs = (halves * 10486 >> 20) & 0x0000007F'0000007F;
+  const std::uint64_t pairs = high_pairs + ((halves - 100 * high_pairs) << 16);
+  const std::uint64_t high_digits = (pairs * 103 >> 10) & 0x000F'000F'000F'000F;
+  return high_digits + ((pairs - 10 * high_digits) << 8) + 0x3030'3030'3030'3030;
+}
+
+static_assert(std::endian::native == std::endian::little, "the lowest byte of EightDigits goes out first");
+
+// `count` digits (1 to 8) of a number that has no more; writes eight bytes whatever the count.
+void WriteGroup(char* out, std::uint64_t value, int count) {
+  const std::uint64_t text = EightDigits(static_cast<std::uint32_t>(value)) >> (8 * (8 - count));
+  std::memcpy(out, &text, sizeof text);
+}
+
+// Exactly `count` digits (1 to 19), zeros in front; writes up to seven bytes beyond them.
+void WriteDigits(char* out, std::uint64_t value, int count) {
+  constexpr std::uint64_t kGroup = 100000000;
+  if (count <= 8) return WriteGroup(out, value, count);
+  const std::uint64_t above = value / kGroup;
+  if (count <= 16) {
+    WriteGroup(out, above, count - 8);
+  } else {
+    WriteGroup(out, above / kGroup, count - 16);
+    WriteGroup(out + count - 16, above % kGroup, 8);
+  }
+  WriteGroup(out + count - 8, value % kGroup, 8);
+}
+
+int DigitCount(std::uint64_t value) {
+  // log10(2) is near 1233 / 4096; the comparison mends the one case in which the product falls short.
+  const auto guess = static_cast<std::size_t>(std::bit_width(value | 1)) * 1233 >> 12;
+  return static_cast<int>(guess) + ((value | 1) >= kPowersOfTen[guess] ? 1 : 0);
+}
+
+// fraction * scale / 2^shift (1 or more), rounded half to even; `odd` says that an odd digit stands before a quotient
+// of zero. Sums instead of branches: whether to round up is nothing that a processor could guess.
+std::uint64_t Scaled(std::uint64_t fraction, std::uint64_t scale, int shift, bool odd) {
+  const Wide product = static_cast<Wide>(fraction) * scale;
+  if (shift < 64) [[likely]] {
+    const auto low = static_cast<std::uint64_t>(product);
+    const std::uint64_t quotient = (static_cast<std::uint64_t>(product >> 64) << (64 - shift)) | (low >> shift);
+    const std::uint64_t rest = low & ((std::uint64_t{1} << shift) - 1);
+    const std::uint64_t tie_up = (quotient | (odd ? 1U : 0U)) & 1U;
+    return quotient + (rest + tie_up > std::uint64_t{1} << (shift - 1) ? 1U : 0U);
+  }
+  if (shift > 127) return 0;  // below one half by far: the product has 113 bits at most
+  const Wide tie_up = (static_cast<unsigned>(product >> shift) | (odd ? 1U : 0U)) & 1U;
+  return static_cast<std::uint64_t>((product + ((Wide{1} << (shift - 1)) - 1) + tie_up) >> shift);
+}
+
+}  // namespace
+
+char* WriteFixed(char* out, double value, int places) {
+  constexpr int kMantissaBits = 52;
+  constexpr std::uint64_t kHidden = std::uint64_t{1} << kMantissaBits;
+  const auto bits = std::bit_cast<std::uint64_t>(value);
+  const int biased = static_cast<int>(bits >> kMantissaBits) & 0x7FF;
+  if (biased >= 0x3FF + 63) return nullptr;
+  const std::uint64_t mantissa = (bits & (kHidden - 1)) | (biased == 0 ? 0 : kHidden);
+  const int exponent = (biased == 0 ? 1 : biased) - 0x3FF - kMantissaBits;
+
+  std::uint64_t whole = 0;
+  std::uint64_t fraction = 0;
+  const std::uint64_t scale = kPowersOfTen[static_cast<std::size_t>(places)];
+  if (exponent >= 0) {
+    whole = mantissa << exponent;
+  } else {
+    const int shift = -exponent;
+    std::uint64_t rest = mantissa;
+    if (shift <= kMantissaBits) {
+      whole = mantissa >> shift;
+      rest = mantissa & ((std::uint64_t{1} << shift) - 1);
+    }
+    fraction = Scaled(rest, scale, shift, places == 0 && (whole & 1) != 0);
+    if (fraction >= scale) {
+      fraction -= scale;
+      ++whole;
+    }
+  }
+
+  if (bits >> 63 != 0) *out++ = '-';
+  const int digits = DigitCount(whole);
+  WriteDigits(out, whole, digits);
+  out += digits;
+  if (places > 0) {
+    *out++ = '.';
+    WriteDigits(out, fraction, places);
+    out += places;
+  }
+  return out;
+}
+
+}  // namespace tvr::visa

@@ -1,0 +1,95 @@
+#include "format/formatted_input.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace tvr::visa {
+
+void FormattedInput::Discard() {
+  next_ = last_ = nullptr;
+  final_ = Final::kNot;
+}
+
+ViStatus FormattedInput::DiscardMessage(Deadline& deadline) {
+  const bool goes_on = next_ != last_ && final_ == Final::kNot && link_.KnowsEnd();
+  Discard();
+  if (!goes_on) return VI_SUCCESS;
+  BeginCall(deadline);
+  while (final_ == Final::kNot) {
+    next_ = last_ = nullptr;
+    if (const ViStatus status = Fill(); status < 0) {
+      Discard();
+      return status;
+    }
+  }
+  Discard();
+  return VI_SUCCESS;
+}
+
+void FormattedInput::SetSize(std::size_t size) {
+  Discard();
+  buffer_.resize(size);
+  size_ = size;
+}
+
+// One low-level read behind the unread bytes. It returns with what is there: on a link without END a full buffer might
+// never come together.
+ViStatus FormattedInput::Fill() {
+  // A byte to look ahead at must fit beside one that is looked at, however small the caller made the buffer.
+  if (buffer_.size() < std::max<std::size_t>(size_, 4)) buffer_.resize(std::max<std::size_t>(size_, 4));
+  const std::size_t unread = Unread();
+  if (unread > 0) std::memmove(buffer_.data(), next_, unread);
+  next_ = buffer_.data();
+  last_ = next_ + unread;
+  const std::size_t room = buffer_.size() - unread;
+  if (room == 0) return VI_ERROR_ALLOC;
+  const ReadRequest request{reinterpret_cast<ViByte*>(buffer_.data() + unread), room, 1, link_.settings().Termchar()};
+  std::size_t received = 0;
+  const ViStatus status = link_.Read(request, *deadline_, received);
+  last_ += received;
+  final_ = status == VI_SUCCESS ? Final::kEnd : status == VI_SUCCESS_TERM_CHAR ? Final::kTermchar : Final::kNot;
+  // What came before a failure is used first; the failure will be met again.
+  return received > 0 ? VI_SUCCESS : status;
+}
+
+bool FormattedInput::Refill() {
+  status_ = Fill();
+  return status_ >= 0;
+}
+
+std::size_t FormattedInput::ReadDirectly(ViByte* into, std::size_t count) {
+  std::size_t taken = 0;
+  while (taken < count && status_ >= 0 && !ended_) {
+    std::size_t received = 0;
+    const ReadRequest request{into + taken, count - taken, count - taken, std::nullopt};
+    const ViStatus status = link_.Read(request, *deadline_, received);
+    taken += received;
+    if (status < 0) status_ = status;
+    if (status == VI_SUCCESS) ended_ = true;
+  }
+  return taken;
+}
+
+void FormattedInput::FetchTerminator() {
+  if (next_ != last_ || ended_ || status_ < 0) return;
+  if (link_.transport().CarriesEnd() || !link_.settings().Termchar()) return;
+  // None within the timeout: then there was none, and the data is complete without it.
+  Fill();
+}
+
+ViStatus FormattedInput::Read(ViByte* into, std::size_t count, std::size_t& received) {
+  received = std::min(count, Unread());
+  if (received > 0) {
+    std::memcpy(into, next_, received);
+    TakeMany(received);
+    if (ended_) return final_ == Final::kEnd ? VI_SUCCESS : VI_SUCCESS_TERM_CHAR;
+  }
+  if (received == count) return VI_SUCCESS_MAX_CNT;
+  std::size_t direct = 0;
+  const ReadRequest request{into + received, count - received, count - received, link_.settings().Termchar()};
+  const ViStatus status = link_.Read(request, *deadline_, direct);
+  received += direct;
+  return status;
+}
+
+}  // namespace tvr::visa

@@ -1,0 +1,46 @@
+// The formatted read buffer of a session.
+#pragma once
+
+#include <atomic>
+#include <vector>
+
+#include "deadline.h"
+#include "format/read_stream.h"
+#include "link.h"
+
+namespace tvr::visa {
+
+class FormattedInput final : public ReadStream {
+ public:
+  explicit FormattedInput(Link& link) : link_(link) {}
+
+  void BeginCall(Deadline& deadline) {
+    deadline_ = &deadline;
+    ReadStream::BeginCall();
+  }
+
+  // Drops what is unread, without I/O.
+  void Discard();
+  // Drops what is unread and, when the end of its message has not come yet, everything up to there.
+  ViStatus DiscardMessage(Deadline& deadline);
+  void SetSize(std::size_t size);
+  std::size_t Size() const { return size_; }
+
+  // A low-level read through this buffer: what is in it first.
+  ViStatus Read(ViByte* into, std::size_t count, std::size_t& received);
+
+  void FetchTerminator() override;
+
+ private:
+  bool Refill() override;
+  std::size_t ReadDirectly(ViByte* into, std::size_t count) override;
+  ViStatus Fill();
+
+  Link& link_;
+  Deadline* deadline_ = nullptr;
+  std::vector<char> buffer_;
+  // Read by viGetAttribute without the session's lock.
+  std::atomic<std::size_t> size_{4096};
+};
+
+}  // namespace tvr::visa

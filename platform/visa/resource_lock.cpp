@@ -1,0 +1,120 @@
+#include "resource_lock.h"
+
+#include <algorithm>
+#include <chrono>
+#include <map>
+
+namespace tvr::visa {
+namespace {
+
+std::string NewKey() {
+  static std::atomic<unsigned> count{0};
+  return "TVR-VISA-" + std::to_string(++count);
+}
+
+}  // namespace
+
+std::shared_ptr<ResourceLock> ResourceLock::Of(const std::string& canonical_name) {
+  static std::mutex guard;
+  static std::map<std::string, std::weak_ptr<ResourceLock>> locks;
+  std::string name = canonical_name;
+  std::transform(name.begin(), name.end(), name.begin(),
+                 [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
+  const std::lock_guard hold(guard);
+  std::erase_if(locks, [](const auto& entry) { return entry.second.expired(); });
+  auto& known = locks[name];
+  auto lock = known.lock();
+  if (lock == nullptr) known = lock = std::make_shared<ResourceLock>();
+  return lock;
+}
+
+template <class Free>
+ViStatus ResourceLock::WaitUntil(Free free, const Holder& holder, ViUInt32 timeout_ms,
+                                 std::unique_lock<std::mutex>& lock) {
+  const auto ready = [&] { return holder.withdrawn_ || free(); };
+  if (ready()) {
+    return holder.withdrawn_ ? VI_ERROR_INV_OBJECT : VI_SUCCESS;
+  }
+  if (timeout_ms == VI_TMO_IMMEDIATE) return VI_ERROR_RSRC_LOCKED;
+  if (timeout_ms == VI_TMO_INFINITE) {
+    changed_.wait(lock, ready);
+  } else if (!changed_.wait_until(lock, std::chrono::system_clock::now() + std::chrono::milliseconds(timeout_ms),
+                                  ready)) {
+    return VI_ERROR_TMO;
+  }
+  return holder.withdrawn_ ? VI_ERROR_INV_OBJECT : VI_SUCCESS;
+}
+
+ViStatus ResourceLock::LockExclusive(Holder& holder, ViUInt32 timeout_ms) {
+  std::unique_lock lock(guard_);
+  // A sharer may take the exclusive lock on top, whoever shares with it.
+  const auto free = [&] {
+    return exclusive_owner_ == &holder || (exclusive_owner_ == nullptr && (sharers_ == 0 || holder.shared_ > 0));
+  };
+  if (const ViStatus status = WaitUntil(free, holder, timeout_ms, lock); status < 0) return status;
+  exclusive_owner_ = &holder;
+  Changed();
+  return ++holder.exclusive_ == 1 ? VI_SUCCESS : VI_SUCCESS_NESTED_EXCLUSIVE;
+}
+
+ViStatus ResourceLock::LockShared(Holder& holder, ViUInt32 timeout_ms, const std::string& requested_key,
+                                  std::string& key) {
+  std::unique_lock lock(guard_);
+  if (holder.shared_ > 0) {
+    if (!requested_key.empty() && requested_key != key_) return VI_ERROR_INV_ACCESS_KEY;
+    key = key_;
+    ++holder.shared_;
+    return VI_SUCCESS_NESTED_SHARED;
+  }
+  const auto free = [&] {
+    return (exclusive_owner_ == nullptr || exclusive_owner_ == &holder) && (sharers_ == 0 || requested_key == key_);
+  };
+  if (const ViStatus status = WaitUntil(free, holder, timeout_ms, lock); status < 0) return status;
+  if (sharers_++ == 0) key_ = requested_key.empty() ? NewKey() : requested_key;
+  key = key_;
+  holder.shared_ = 1;
+  Changed();
+  return VI_SUCCESS;
+}
+
+ViStatus ResourceLock::Unlock(Holder& holder) {
+  const std::lock_guard lock(guard_);
+  if (holder.exclusive_ > 0) {
+    if (--holder.exclusive_ == 0) exclusive_owner_ = nullptr;
+  } else if (holder.shared_ > 0) {
+    if (--holder.shared_ == 0) --sharers_;
+  } else {
+    return VI_ERROR_SESN_NLOCKED;
+  }
+  Changed();
+  if (holder.exclusive_ > 0) return VI_SUCCESS_NESTED_EXCLUSIVE;
+  return holder.shared_ > 0 ? VI_SUCCESS_NESTED_SHARED : VI_SUCCESS;
+}
+
+void ResourceLock::Withdraw(Holder& holder) {
+  const std::lock_guard lock(guard_);
+  if (exclusive_owner_ == &holder) exclusive_owner_ = nullptr;
+  if (holder.shared_ > 0) --sharers_;
+  holder.exclusive_ = holder.shared_ = 0;
+  holder.withdrawn_ = true;
+  Changed();
+}
+
+void ResourceLock::Changed() {
+  held_.store(exclusive_owner_ != nullptr || sharers_ > 0, std::memory_order_release);
+  changed_.notify_all();
+}
+
+bool ResourceLock::AdmitsWhenHeld(const Holder& holder) {
+  const std::lock_guard lock(guard_);
+  if (exclusive_owner_ != nullptr) return exclusive_owner_ == &holder;
+  return sharers_ == 0 || holder.shared_ > 0;
+}
+
+ViAccessMode ResourceLock::State() {
+  const std::lock_guard lock(guard_);
+  if (exclusive_owner_ != nullptr) return VI_EXCLUSIVE_LOCK;
+  return sharers_ > 0 ? VI_SHARED_LOCK : VI_NO_LOCK;
+}
+
+}  // namespace tvr::visa

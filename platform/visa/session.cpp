@@ -1,0 +1,163 @@
+#include "session.h"
+
+#include <bit>
+
+#include "format/read_format.h"
+#include "format/write_format.h"
+
+namespace tvr::visa {
+namespace {
+
+// Larger buffers are refused: a wrong number should not eat the memory.
+constexpr std::size_t kLargestBuffer = 64 * 1024 * 1024;
+constexpr ViUInt32 kDefaultOpenTimeout = 2000;
+
+bool MoreThanOne(unsigned flags) { return std::popcount(flags) > 1; }
+
+}  // namespace
+
+Session::Session(ViSession resource_manager, ResourceName resource)
+    : resource_manager_(resource_manager),
+      resource_(std::move(resource)),
+      lock_(ResourceLock::Of(resource_.canonical)) {}
+
+Session::~Session() { lock_->Withdraw(holder_); }
+
+ViStatus Session::Open(ViAccessMode mode, ViUInt32 timeout_ms) {
+  Deadline deadline(timeout_ms == 0 ? kDefaultOpenTimeout : timeout_ms);
+  std::unique_ptr<Transport> transport;
+  const bool socket = resource_.interface_type == VI_INTF_TCPIP && resource_.resource_class == "SOCKET";
+  // The other kinds of resources are well-formed, and this library has no interface for them.
+  if (resource_.interface_type != VI_INTF_TCPIP) return VI_ERROR_INTF_NUM_NCONFIG;
+  if (!socket) return VI_ERROR_LIBRARY_NFOUND;
+  if (const ViStatus status = OpenSocket(resource_, interruption_, deadline, transport); status < 0) return status;
+  link_.Attach(std::move(transport));
+  if ((mode & VI_EXCLUSIVE_LOCK) != 0) {
+    if (const ViStatus status = lock_->LockExclusive(holder_, timeout_ms); status < 0) return status;
+  }
+  return VI_SUCCESS;
+}
+
+void Session::SetHandle(ViSession handle) {
+  handle_ = handle;
+  link_.SetSession(handle);
+  if (trace::kOn) [[unlikely]] {
+    const std::string text = "open " + resource_.canonical;
+    const iovec piece{const_cast<char*>(text.data()), text.size()};
+    trace::Message(handle_, trace::Direction::kEvent, {&piece, 1}, text.size(), VI_SUCCESS);
+  }
+}
+
+void Session::OnClose() {
+  closing_.store(true, std::memory_order_relaxed);
+  lock_->Withdraw(holder_);
+  transport().HangUp();
+  if (const Pinned manager(resource_manager_); manager) {
+    if (auto* const owner = manager.As<ResourceManager>()) owner->Forget(handle_);
+  }
+}
+
+ViStatus Session::Read(ViByte* into, std::size_t count, Deadline& deadline, std::size_t& received) {
+  if (count == 0) return VI_SUCCESS_MAX_CNT;
+  return link_.Read({into, count, count, settings_.Termchar()}, deadline, received);
+}
+
+ViStatus Session::Write(const ViByte* from, std::size_t count, bool end, Deadline& deadline, std::size_t& sent) {
+  if (count == 0) return VI_SUCCESS;
+  iovec piece{const_cast<ViByte*>(from), count};
+  return link_.Write({&piece, 1}, end, deadline, sent);
+}
+
+ViStatus Session::Clear(Deadline& deadline) {
+  output_.Discard();
+  input_.Discard();
+  return transport().Clear(deadline);
+}
+
+ViStatus Session::Printf(const char* format, Args& args, Deadline& deadline) {
+  output_.BeginCall(deadline);
+  const ViStatus status = WriteFormat(format, args, output_);
+  if (status >= 0 && settings_[Settings::kWriteBufferMode] == VI_FLUSH_ON_ACCESS) output_.Flush(true);
+  return output_.FinishCall(status);
+}
+
+ViStatus Session::Scanf(const char* format, Args& args, Deadline& deadline) {
+  input_.BeginCall(deadline);
+  const ViStatus status = ReadFormat(format, args, input_);
+  if (status < 0 || settings_[Settings::kReadBufferMode] != VI_FLUSH_ON_ACCESS) return status;
+  const ViStatus flushed = input_.DiscardMessage(deadline);
+  return flushed < 0 ? flushed : status;
+}
+
+ViStatus Session::Queryf(const char* write_format, const char* read_format, Args& args, Deadline& deadline) {
+  // What an earlier answer left behind must not be taken for this one's.
+  if (const ViStatus status = input_.DiscardMessage(deadline); status < 0) return status;
+  output_.BeginCall(deadline);
+  ViStatus status = WriteFormat(write_format, args, output_);
+  if (status >= 0) output_.Flush(true);
+  status = output_.FinishCall(status);
+  return status < 0 ? status : Scanf(read_format, args, deadline);
+}
+
+ViStatus Session::FlushWrites(Deadline& deadline) {
+  output_.BeginCall(deadline);
+  output_.Flush(true);
+  return output_.FinishCall(VI_SUCCESS);
+}
+
+ViStatus Session::Flush(ViUInt16 mask, Deadline& deadline) {
+  constexpr unsigned kRead = VI_READ_BUF | VI_READ_BUF_DISCARD;
+  constexpr unsigned kWrite = VI_WRITE_BUF | VI_WRITE_BUF_DISCARD;
+  constexpr unsigned kIn = VI_IO_IN_BUF | VI_IO_IN_BUF_DISCARD;
+  constexpr unsigned kOut = VI_IO_OUT_BUF | VI_IO_OUT_BUF_DISCARD;
+  const unsigned flags = mask;
+  if (flags == 0 || (flags & ~(kRead | kWrite | kIn | kOut)) != 0) return VI_ERROR_INV_MASK;
+  if (MoreThanOne(flags & kRead) || MoreThanOne(flags & kWrite) || MoreThanOne(flags & kIn) ||
+      MoreThanOne(flags & kOut)) {
+    return VI_ERROR_INV_MASK;
+  }
+  ViStatus status = VI_SUCCESS;
+  if ((flags & VI_WRITE_BUF) != 0) status = FlushWrites(deadline);
+  if ((flags & VI_WRITE_BUF_DISCARD) != 0) output_.Discard();
+  if ((flags & VI_READ_BUF_DISCARD) != 0) input_.Discard();
+  if (status >= 0 && (flags & VI_READ_BUF) != 0) status = input_.DiscardMessage(deadline);
+  // Nothing of ours waits in the transport on its way out: what was written is with the kernel.
+  if ((flags & kIn) != 0) transport().DiscardInput();
+  return status;
+}
+
+ViStatus Session::SetBuffer(ViUInt16 mask, std::size_t size, Deadline& deadline) {
+  constexpr unsigned kFormatted = VI_READ_BUF | VI_WRITE_BUF;
+  constexpr unsigned kTransport = VI_IO_IN_BUF | VI_IO_OUT_BUF;
+  const unsigned flags = mask;
+  if (flags == 0 || (flags & ~(kFormatted | kTransport)) != 0) return VI_ERROR_INV_MASK;
+  if (size > kLargestBuffer) return VI_ERROR_ALLOC;
+  if ((flags & kTransport) != 0 || size == 0) return VI_WARN_NSUP_BUF;
+  if ((flags & VI_WRITE_BUF) != 0) {
+    if (const ViStatus status = FlushWrites(deadline); status < 0) return status;
+    output_.SetSize(size);
+  }
+  if ((flags & VI_READ_BUF) != 0) input_.SetSize(size);
+  return VI_SUCCESS;
+}
+
+ViStatus Session::BufferedRead(ViByte* into, std::size_t count, Deadline& deadline, std::size_t& received) {
+  if (count == 0) return VI_SUCCESS_MAX_CNT;
+  input_.BeginCall(deadline);
+  return input_.Read(into, count, received);
+}
+
+ViStatus Session::BufferedWrite(const ViByte* from, std::size_t count, Deadline& deadline, std::size_t& written) {
+  output_.BeginCall(deadline);
+  output_.Append({reinterpret_cast<const char*>(from), count});
+  const ViStatus status = output_.FinishCall(output_.status());
+  if (status >= 0) written = count;
+  return status;
+}
+
+ViStatus Session::Lock(ViAccessMode type, ViUInt32 timeout_ms, const std::string& requested_key, std::string& key) {
+  return type == VI_EXCLUSIVE_LOCK ? lock_->LockExclusive(holder_, timeout_ms)
+                                   : lock_->LockShared(holder_, timeout_ms, requested_key, key);
+}
+
+}  // namespace tvr::visa
