@@ -3,6 +3,8 @@
 #pragma once
 
 #include <array>
+#include <optional>
+#include <vector>
 
 #include "scpi/quantity.h"
 
@@ -53,11 +55,107 @@ struct OutputSettings {
   bool blanking = true;
 };
 
+enum class Waveform { kSine, kGaussian, kRampDown, kRampUp, kSquare, kTriangle, kUniform };
+enum class ModulationSource { kInternal, kExternal };
+
+// What AM, FM and PM have in common. The sizes are percent, hertz or radians; the sensitivities those per volt.
+struct ModulationSettings {
+  bool on = false;
+  ModulationSource source = ModulationSource::kInternal;
+  Waveform waveform = Waveform::kSine;
+  double rate = 1e3;
+  double size = 0.0;
+  double sensitivity = 0.0;
+};
+
+struct AmSettings : ModulationSettings {
+  bool logarithmic = false;
+  double size_db = 3.0;
+  double sensitivity_db = 3.0;
+};
+
+enum class FmMode { kLocked, kUnlocked };
+enum class FmFilter { kDc, kHp63, kHp1k };
+
+struct FmSettings : ModulationSettings {
+  FmMode mode = FmMode::kLocked;
+  FmFilter filter = FmFilter::kDc;
+};
+
+enum class PmBandwidth { kMinimum, kMaximum };
+
+struct PmSettings : ModulationSettings {
+  PmBandwidth bandwidth = PmBandwidth::kMinimum;
+};
+
+enum class Polarity { kNormal, kInverted };
+enum class Slope { kPositive, kNegative };
+enum class PulseTrigger { kFreeRun, kGated, kDelayed, kTriggered, kTriggerDelayed, kComposite };
+
+struct PulseSettings {
+  bool on = false;
+  ModulationSource source = ModulationSource::kInternal;
+  Polarity polarity = Polarity::kNormal;
+  double period = 1e-3;
+  int count = 1;
+  std::array<double, 4> widths{1e-4, 1e-4, 1e-4, 1e-4};
+  std::array<double, 4> delays{};
+  PulseTrigger trigger = PulseTrigger::kFreeRun;
+  Slope slope = Slope::kPositive;
+};
+
+enum class Spacing { kLinear, kLogarithmic };
+enum class Generation { kAnalog, kStepped };
+enum class Direction { kUp, kDown };
+
+struct SweepSettings {
+  Spacing spacing = Spacing::kLinear;
+  Generation generation = Generation::kAnalog;
+  Direction direction = Direction::kUp;
+  int points = 101;
+  std::optional<double> step;  // set after the points were: then it counts, and the points follow
+  double dwell = 0.05;
+  bool dwell_auto = false;  // the dwell follows from the time instead of the time from the dwell
+  double time = 1.0;
+  double shortest_time = 0.0;
+};
+
+struct ListSettings {
+  std::vector<double> frequencies;
+  std::vector<double> powers;
+  int index = 0;
+  int start = 0;
+  std::optional<int> stop;  // the last point as long as nobody sets it
+  double dwell = 0.05;
+};
+
+enum class TriggerType { kAuto, kSingle, kExternal, kManual, kInactive };
+enum class TriggerMode { kSweep, kPoint };
+enum class TriggerSource { kBus, kImmediate, kExternal };
+
+struct TriggerSettings {
+  TriggerType type = TriggerType::kAuto;
+  TriggerMode mode = TriggerMode::kSweep;
+  TriggerSource source = TriggerSource::kImmediate;
+  bool continuous = true;
+};
+
 struct Settings {
   FrequencySettings frequency;
   PowerSettings power;
   OutputSettings output;
+  AmSettings am;
+  FmSettings fm;
+  PmSettings pm;
+  PulseSettings pulse;
+  SweepSettings frequency_sweep;
+  SweepSettings power_sweep;
+  std::array<ListSettings, 10> lists;
+  TriggerSettings trigger;
   scpi::DefaultUnits units;
+
+  ListSettings& list(int number) { return lists[static_cast<std::size_t>(number - 1)]; }
+  const ListSettings& list(int number) const { return lists[static_cast<std::size_t>(number - 1)]; }
 };
 
 }  // namespace siggen::model
