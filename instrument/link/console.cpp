@@ -5,8 +5,11 @@ namespace siggen::link {
 bool CarryOut(std::string_view line, model::Instrument& instrument, FaultPlan& faults) {
   constexpr std::string_view kFault = "fault ";
   while (!line.empty() && (line.back() == '\r' || line.back() == ' ')) line.remove_suffix(1);
+  instrument.CatchUp();
   if (line == "trip") {
     instrument.generator().TripProtection();
+  } else if (line == "trigger") {
+    instrument.generator().sweep.ExternalTrigger();
   } else if (line == "clear-faults") {
     faults.Clear();
   } else if (line.starts_with(kFault)) {

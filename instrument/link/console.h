@@ -1,4 +1,5 @@
-// What a person at the bench does to the instrument, as lines on standard input: "trip", "fault cut@1", "clear-faults".
+// What a person at the bench does to the instrument, as lines on standard input: "trip", "trigger", "fault cut@1",
+// "clear-faults".
 #pragma once
 
 #include <string_view>

@@ -41,6 +41,7 @@ void AddCommon(scpi::Commands& commands, Instrument& instrument) {
     if (instrument.operations_pending()) throw scpi::Wait();
   });
 
+  commands.Do("*TRG", kNothing, [&instrument](Call&) { instrument.generator().sweep.BusTrigger(); });
   commands.Do("*RST", kNothing, [&instrument](Call&) { instrument.Reset(); });
   commands.Ask("*TST", kNothing, [](Call& call) { call.answer.Integer(0); });
   commands.Ask("*OPT", kNothing, [](Call& call) { call.answer.Plain(kOptions); });

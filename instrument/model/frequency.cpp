@@ -76,7 +76,8 @@ void AddFrequency(scpi::Commands& commands, Generator& generator) {
            {Quantity::kFrequency, [&generator] { return generator.FrequencyLimits(1e9); },
             [&frequency] { return frequency.fixed; }, [&frequency](double value) { frequency.fixed = value; },
             [&frequency] { return frequency.step; }});
-  BindChoice(commands, "FREQuency:MODE", kDrives, frequency.drive);
+  BindChoice(commands, "FREQuency:MODE", kDrives, frequency.drive,
+             std::function<void(Drive)>([&generator](Drive) { generator.sweep.DriveChanged(); }));
   BindReal(commands, "FREQuency:MULTiplier", Quantity::kFactor, {0.001, 1000.0, 1.0}, frequency.multiplier);
   BindReal(commands, "FREQuency:STEP", Quantity::kFrequency, {0.001, generator.variant().highest_frequency, 1e6},
            frequency.step);

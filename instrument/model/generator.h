@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/settings.h"
+#include "model/sweep_engine.h"
 #include "model/variant.h"
 #include "scpi/status.h"
 
@@ -12,7 +13,9 @@ class Generator {
   Generator(const Variant& variant, scpi::Status& status);
 
   const Variant& variant() const { return variant_; }
+
   Settings now;
+  SweepEngine sweep;
 
   void Reset();
   void Load(const Settings& settings);
@@ -22,6 +25,12 @@ class Generator {
   double shown_offset() const { return now.power.offset_on ? now.power.offset : 0.0; }
   double highest_level() const;
   double attenuation() const;
+
+  // What comes out of the connector while the output is on.
+  double carrier_frequency() const { return CarrierFrequency(now, sweep.position()); }
+  double carrier_power() const;
+
+  void CatchUp(Instant moment);
 
   // Trips the reverse power protection, as a transmitter at the output connector would: the output goes off.
   void TripProtection();

@@ -11,12 +11,21 @@ Instrument::Instrument(Identity identity, Clock clock)
   AddPower(commands_, generator_);
   AddOutput(commands_, generator_);
   AddUnit(commands_, generator_);
+  AddAm(commands_, generator_);
+  AddFm(commands_, generator_);
+  AddPm(commands_, generator_);
+  AddPulse(commands_, generator_);
+  AddSweep(commands_, generator_);
+  AddList(commands_, generator_);
+  AddTrigger(commands_, generator_);
+  AddMeasure(commands_, generator_);
   AddStatus(commands_, status_);
   AddSystem(commands_, *this);
   status_.SetStandardEvent(scpi::Status::kPowerOn);
 }
 
 void Instrument::CatchUp() {
+  generator_.CatchUp(clock_());
   if (complete_wanted_ && !operations_pending()) {
     complete_wanted_ = false;
     status_.SetStandardEvent(scpi::Status::kOperationComplete);

@@ -19,7 +19,6 @@
 
 namespace siggen::model {
 
-using Instant = std::chrono::steady_clock::time_point;
 using Clock = std::function<Instant()>;
 
 inline constexpr std::string_view kOptions = "FM,PULSE,GPS";
@@ -45,8 +44,8 @@ class Instrument : public scpi::Device {
   const Identity& identity() const { return identity_; }
   Instant now() const { return clock_(); }
 
-  bool operations_pending() const { return false; }
-  std::optional<Instant> next_event() const { return std::nullopt; }
+  bool operations_pending() const { return generator_.sweep.pending(); }
+  std::optional<Instant> next_event() const { return generator_.sweep.next_event(); }
 
   void Reset();                  // *RST
   void NoteOperationComplete();  // *OPC

@@ -44,7 +44,8 @@ void AddLevel(Commands& commands, Generator& generator) {
             [&generator] { return generator.now.power.level + generator.shown_offset(); },
             [&generator](double value) { generator.now.power.level = value - generator.shown_offset(); },
             [&power] { return power.step; }});
-  BindChoice(commands, "POWer:MODE", kDrives, power.drive);
+  BindChoice(commands, "POWer:MODE", kDrives, power.drive,
+             std::function<void(Drive)>([&generator](Drive) { generator.sweep.DriveChanged(); }));
   BindReal(commands, "POWer:STEP", Quantity::kRatio, {0.001, kHighestPower - kLowestPower, 1.0}, power.step);
 
   commands.Do("POWer:L<0-9>", scpi::kOne, [&power](Call& call) {

@@ -17,6 +17,14 @@ void AddFrequency(scpi::Commands& commands, Generator& generator);
 void AddPower(scpi::Commands& commands, Generator& generator);
 void AddOutput(scpi::Commands& commands, Generator& generator);
 void AddUnit(scpi::Commands& commands, Generator& generator);
+void AddAm(scpi::Commands& commands, Generator& generator);
+void AddFm(scpi::Commands& commands, Generator& generator);
+void AddPm(scpi::Commands& commands, Generator& generator);
+void AddPulse(scpi::Commands& commands, Generator& generator);
+void AddSweep(scpi::Commands& commands, Generator& generator);
+void AddList(scpi::Commands& commands, Generator& generator);
+void AddTrigger(scpi::Commands& commands, Generator& generator);
+void AddMeasure(scpi::Commands& commands, Generator& generator);
 void AddStatus(scpi::Commands& commands, scpi::Status& status);
 void AddSystem(scpi::Commands& commands, Instrument& instrument);
 

@@ -105,15 +105,17 @@ void Commands::Run(const Unit& unit, std::span<const Mnemonic> path, const Defau
       const Action& action = search.query ? node.query : node.set;
       if (action.run) return &action;
     }
+    bool named = false;
+    bool allowed = false;
     for (const auto& child : node.children) {
       const std::size_t mark = search.suffixes.size();
       if (depth < search.path.size() && child->Named(search.path[depth].word)) {
+        named = true;
         const int suffix = search.path[depth].suffix.value_or(1);
         if (child->Allows(suffix)) {
+          allowed = true;
           if (child->numbered()) search.suffixes.push_back(suffix);
           if (const Action* action = self(self, *child, depth + 1)) return action;
-        } else {
-          search.wrong_suffix = true;
         }
       }
       search.suffixes.resize(mark);
@@ -123,6 +125,7 @@ void Commands::Run(const Unit& unit, std::span<const Mnemonic> path, const Defau
         search.suffixes.resize(mark);
       }
     }
+    if (named && !allowed) search.wrong_suffix = true;
     return nullptr;
   };
 

@@ -62,6 +62,23 @@ TEST_F(Socket, ALostClientLeavesTheOthersAlone) {
   EXPECT_EQ("1", client_.Ask("*OPC?"));
 }
 
+TEST_F(Socket, AnArmedListIsTriggeredAndPlayedInRealTime) {
+  client_.Send(":INIT:CONT OFF;:LIST3:FREQ 1e9,2e9,3e9;DWEL 0.02;:FREQ:MODE LIST3;:TRIG:TYPE SINGle;:INIT\n");
+  EXPECT_EQ("0", client_.Ask(":LIST3:IND?"));
+  const auto begin = std::chrono::steady_clock::now();
+  EXPECT_EQ("1;2", client_.Ask(":TRIG;*OPC?;:LIST3:IND?"));
+  EXPECT_GE(std::chrono::steady_clock::now() - begin, std::chrono::milliseconds(60));
+}
+
+TEST_F(Socket, OthersAreServedWhileOneWaits) {
+  client_.Send(":INIT:CONT OFF;:TRIG:TYPE SINGle;:FREQ:MODE SWE;:INIT;*OPC?\n");
+  Client other(instrument_.port());
+  while (other.Ask(":STAT:OPER:COND?") != "32") {
+  }
+  other.Send(":ABOR\n");
+  EXPECT_EQ("1\n", client_.Receive());
+}
+
 TEST_F(Socket, DelayMakesTheAnswerLate) {
   instrument_.Inject("delay:150@1");
   const auto begin = std::chrono::steady_clock::now();
