@@ -39,22 +39,6 @@ class File {
   int descriptor_;
 };
 
-// Removes the file beside the store unless it has taken the store's name.
-class Unfinished {
- public:
-  explicit Unfinished(std::string location) : location_(std::move(location)) {}
-  ~Unfinished() {
-    if (!location_.empty()) ::unlink(location_.c_str());
-  }
-  Unfinished(const Unfinished&) = delete;
-  Unfinished& operator=(const Unfinished&) = delete;
-
-  void Finished() { location_.clear(); }
-
- private:
-  std::string location_;
-};
-
 void WriteAll(const std::string& location, int descriptor, std::string_view text) {
   while (!text.empty()) {
     const ssize_t written = ::write(descriptor, text.data(), text.size());
@@ -63,6 +47,44 @@ void WriteAll(const std::string& location, int descriptor, std::string_view text
     text.remove_prefix(static_cast<std::size_t>(written));
   }
 }
+
+// A new file beside the one that it is to become. Whatever is not given its name is gone at the end of the scope.
+class FileBeside {
+ public:
+  explicit FileBeside(const std::filesystem::path& target)
+      : name_(target.string() + ".XXXXXX"), folder_(target.parent_path()), file_(::mkostemp(name_.data(), O_CLOEXEC)) {
+    if (file_.get() < 0) Fail(name_, errno);
+  }
+  ~FileBeside() { ::unlink(name_.c_str()); }  // finds nothing after a rename
+  FileBeside(const FileBeside&) = delete;
+  FileBeside& operator=(const FileBeside&) = delete;
+
+  const char* name() const { return name_.c_str(); }
+
+  void KeepOwner(const struct stat& before) {
+    // Only who may give files away can keep an owner; everybody else already is the owner, or becomes it.
+    if (::fchown(file_.get(), before.st_uid, before.st_gid) != 0 && errno != EPERM) Fail(name_, errno);
+  }
+
+  // Brings the text to the disk; the file is whole from here on.
+  void Write(std::string_view text, mode_t mode) {
+    if (::fchmod(file_.get(), mode) != 0) Fail(name_, errno);
+    WriteAll(name_, file_.get(), text);
+    if (::fsync(file_.get()) != 0) Fail(name_, errno);
+    if (!file_.Close()) Fail(name_, errno);
+  }
+
+  // A new name is on the disk once its folder is. The store is whole either way, so a failure is no failure.
+  void SyncFolder() const {
+    const File folder(::open(folder_.empty() ? "." : folder_.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (folder.get() >= 0) ::fsync(folder.get());
+  }
+
+ private:
+  std::string name_;
+  std::filesystem::path folder_;
+  File file_;
+};
 
 }  // namespace
 
@@ -102,22 +124,22 @@ void ReplaceFile(const std::string& location, std::string_view text) {
   const bool existed = ::stat(target.c_str(), &before) == 0;
   if (existed && !S_ISREG(before.st_mode)) throw StoreError(location + ": not a regular file");
 
-  std::string beside = target.string() + ".XXXXXX";
-  File file(::mkostemp(beside.data(), O_CLOEXEC));
-  if (file.get() < 0) Fail(beside, errno);
-  Unfinished unfinished(beside);
-  // The owner can only be kept by one who may give files away; everybody else already is the owner, or becomes it.
-  if (existed && ::fchown(file.get(), before.st_uid, before.st_gid) != 0 && errno != EPERM) Fail(beside, errno);
-  if (::fchmod(file.get(), existed ? before.st_mode & 07777 : 0644) != 0) Fail(beside, errno);
-  WriteAll(beside, file.get(), text);
-  if (::fsync(file.get()) != 0) Fail(beside, errno);
-  if (!file.Close()) Fail(beside, errno);
-  if (std::rename(beside.c_str(), target.c_str()) != 0) Fail(location, errno);
-  unfinished.Finished();
+  FileBeside beside(target);
+  if (existed) beside.KeepOwner(before);
+  beside.Write(text, existed ? before.st_mode & 07777 : 0644);
+  if (std::rename(beside.name(), target.c_str()) != 0) Fail(location, errno);
+  beside.SyncFolder();
+}
 
-  // The new name is on the disk once its folder is. The store is whole either way, so a failure is no failure.
-  const File folder(::open(target.parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  if (folder.get() >= 0) ::fsync(folder.get());
+bool CreateFile(const std::string& location, std::string_view text) {
+  FileBeside beside(location);
+  beside.Write(text, 0644);
+  if (::link(beside.name(), location.c_str()) != 0) {
+    if (errno == EEXIST) return false;
+    Fail(location, errno);
+  }
+  beside.SyncFolder();
+  return true;
 }
 
 }  // namespace tvrivi

@@ -15,6 +15,9 @@ std::optional<std::string> ReadFile(const std::string& location);
 /// An existing file keeps its permissions; a symbolic link stays one. Throws StoreError.
 void ReplaceFile(const std::string& location, std::string_view text);
 
+/// The same for a file that must not exist yet: false, and nothing happened, when there is one. Throws StoreError.
+bool CreateFile(const std::string& location, std::string_view text);
+
 }  // namespace tvrivi
 
 #endif
