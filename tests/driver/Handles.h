@@ -13,8 +13,7 @@ namespace kvtd::test {
 inline std::vector<ViSession> HandlesThatAreNotOpen() {
   ViSession closed = VI_NULL;
   std::string resource = "TCPIP0::127.0.0.1::1::SOCKET";
-  EXPECT_STATUS(VI_SUCCESS,
-                KVTD481X2C_InitWithOptions(resource.data(), VI_FALSE, VI_FALSE, "Simulate=1", &closed));
+  EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_InitWithOptions(resource.data(), VI_FALSE, VI_FALSE, "Simulate=1", &closed));
   EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_close(closed));
   return {VI_NULL, closed, ViSession{0xDEADBEEF}};
 }

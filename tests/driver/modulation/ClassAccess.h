@@ -19,9 +19,7 @@ inline const RecordedError kNoClassValue{kUnexpectedResponse, "Unexpected respon
 template <typename Session>
 class ClassAccess : public Session {
  protected:
-  ViStatus GetReal(ViAttr id, ViReal64* value) {
-    return KVTD481X2C_GetAttributeViReal64(this->vi, nullptr, id, value);
-  }
+  ViStatus GetReal(ViAttr id, ViReal64* value) { return KVTD481X2C_GetAttributeViReal64(this->vi, nullptr, id, value); }
   ViStatus SetReal(ViAttr id, ViReal64 value) { return KVTD481X2C_SetAttributeViReal64(this->vi, nullptr, id, value); }
   ViStatus GetInt32(ViAttr id, ViInt32* value) { return KVTD481X2C_GetAttributeViInt32(this->vi, nullptr, id, value); }
   ViStatus SetInt32(ViAttr id, ViInt32 value) { return KVTD481X2C_SetAttributeViInt32(this->vi, nullptr, id, value); }

@@ -281,8 +281,7 @@ TEST_F(AmDialogue, AfterTheSourceIsExternalTheDepthIsTheSensitivity) {
 
 TEST_F(AmDialogue, TheCouplingIsAlwaysDcAndNeverSent) {
   EXPECT_EQ(1, Int32(KVTD481X2C_ATTR_AM_EXTERNAL_COUPLING));
-  EXPECT_STATUS(VI_SUCCESS,
-                SetInt32(KVTD481X2C_ATTR_AM_EXTERNAL_COUPLING, KVTD481X2C_VAL_AM_EXTERNAL_COUPLING_DC));
+  EXPECT_STATUS(VI_SUCCESS, SetInt32(KVTD481X2C_ATTR_AM_EXTERNAL_COUPLING, KVTD481X2C_VAL_AM_EXTERNAL_COUPLING_DC));
   EXPECT_STATUS(kValueNotSupported, SetInt32(KVTD481X2C_ATTR_AM_EXTERNAL_COUPLING, 0));
   EXPECT_EQ(ValueRefused("KVTD481X2C_VAL_AM_EXTERNAL_COUPLING_AC", "AM_EXTERNAL_COUPLING"), LastErrorText());
   EXPECT_STATUS(kValueNotSupported, KVTD481X2C_ConfigureAMExternalCoupling(vi, 7));
@@ -428,8 +427,7 @@ TEST_F(AmDialogue, OperationsRefuseAHandleThatIsNotOpen) {
     EXPECT_STATUS(kInvalidHandle, KVTD481X2C_SetAttributeViReal64(handle, nullptr, KVTD481X2C_ATTR_AM_DEPTH, 1));
     EXPECT_STATUS(kInvalidHandle,
                   KVTD481X2C_GetAttributeViReal64(handle, nullptr, KVTD481X2C_ATTR_AM_NOMINAL_VOLTAGE, &real));
-    EXPECT_STATUS(kInvalidHandle,
-                  KVTD481X2C_GetAttributeViInt32(handle, nullptr, KVTD481X2C_ATTR_AM_SCALING, &number));
+    EXPECT_STATUS(kInvalidHandle, KVTD481X2C_GetAttributeViInt32(handle, nullptr, KVTD481X2C_ATTR_AM_SCALING, &number));
     EXPECT_STATUS(kInvalidHandle, KVTD481X2C_SetAttributeViInt32(handle, nullptr, KVTD481X2C_ATTR_AM_SCALING, 0));
     EXPECT_STATUS(kInvalidHandle,
                   KVTD481X2C_GetAttributeViInt32(handle, nullptr, KVTD481X2C_ATTR_AM_EXTERNAL_COUPLING, &number));
@@ -485,8 +483,8 @@ TEST_F(SimulatedAm, AnInstrumentValueWithoutAClassValueLeavesTheCallersVariableA
   EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_SetAMSourceEx(vi, 7));
   EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_SetAMMode(vi, -1));
   GuardedText<16> source;
-  EXPECT_STATUS(kUnexpectedResponse, KVTD481X2C_GetAttributeViString(vi, nullptr, KVTD481X2C_ATTR_AM_SOURCE,
-                                                                     source.size(), source.data()));
+  EXPECT_STATUS(kUnexpectedResponse,
+                KVTD481X2C_GetAttributeViString(vi, nullptr, KVTD481X2C_ATTR_AM_SOURCE, source.size(), source.data()));
   EXPECT_TRUE(source.Untouched());
   EXPECT_EQ(kNoClassValue, LastError());
   ViInt32 scaling = 77;
