@@ -152,6 +152,34 @@ TEST_F(DirectIo, TheTimeoutHoldsForTheNextExchange) {
   EXPECT_LT(Clock::now() - start, Milliseconds(1000));
 }
 
+// A reset takes the instrument longer than a query: it runs under two seconds of its own.
+TEST_F(DirectIo, AResetHasATimeoutOfItsOwnAndGivesTheCallersBack) {
+  EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_SetIOTimeout(vi, 20));
+  Script(R"(
+    > *RST
+    > *OPC?
+    ! pause 100
+    < 1
+  )");
+  EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_reset(vi));
+  ViInt32 timeout = 77;
+  EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_GetIOTimeout(vi, &timeout));
+  EXPECT_EQ(20, timeout);
+}
+
+TEST_F(DirectIo, AResetThatFailsGivesTheCallersTimeoutBackAsWell) {
+  EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_SetIOTimeout(vi, 12345));
+  Script(R"(
+    > *RST
+    > *OPC?
+    ! close
+  )");
+  EXPECT_STATUS(kVisaConnectionLost, KVTD481X2C_reset(vi));
+  ViInt32 timeout = 77;
+  EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_GetIOTimeout(vi, &timeout));
+  EXPECT_EQ(12345, timeout);
+}
+
 TEST_F(DirectIo, TheSessionOfVisaIsGivenOut) {
   ViSession io = 0;
   EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_GetIOSession(vi, &io));

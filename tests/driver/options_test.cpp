@@ -178,6 +178,14 @@ TEST_F(Options, AKeyMayStandOnlyOnceInTheSetupAndItsLaterSpellingIsTold) {
                 {kCannotRecover, "Failure cannot recover.  DriverSetup option 'Model' appears more than once."});
 }
 
+TEST_F(Options, ARecordedTextIsCutAtOneThousandAndTwentyThreeCharacters) {
+  const std::string key(2000, 'k');
+  EXPECT_STATUS(kCannotRecover, Open("DriverSetup=" + key + "=1," + key + "=2"));
+  const std::string text = ErrorOf(0).text;
+  EXPECT_EQ(1023U, text.size());
+  EXPECT_TRUE(text.starts_with("Failure cannot recover.  DriverSetup option 'kkkk")) << text;
+}
+
 TEST_F(Options, TheSetupIsReadBeforeTheOptionsInFrontOfIt) {
   ExpectRefused("nonsense=1,DriverSetup=Model:A,Model:A",
                 {kCannotRecover, "Failure cannot recover.  DriverSetup option 'Model' appears more than once."});
@@ -199,9 +207,15 @@ TEST_F(Options, AnEmptyModelIsNoPair) {
 
 // ---- what the options do to the dialogue ----
 
-TEST_F(Options, AStringOfAnyLengthIsRead) {
-  ASSERT_STATUS(VI_SUCCESS, Open("Simulate=1," + std::string(5000, ' ') + "Cache=0"));
-  EXPECT_EQ(VI_FALSE, BooleanAttribute(KVTD481X2C_ATTR_CACHE));
+TEST_F(Options, ASetupOfAnyLengthIsRead) {
+  const std::string note(50000, 'x');
+  ASSERT_STATUS(VI_SUCCESS, Open("Simulate=1,DriverSetup=Note=" + note + ",Model:TD48142C"));
+  EXPECT_EQ("TD48142C", Model());
+  // The attribute gives out what fits into the longest text there is.
+  GuardedText<4096> text;
+  EXPECT_STATUS(4096,
+                KVTD481X2C_GetAttributeViString(vi, nullptr, KVTD481X2C_ATTR_DRIVER_SETUP, text.size(), text.data()));
+  EXPECT_EQ("Note=" + std::string(4090, 'x'), text.text());
 }
 
 TEST_F(Options, ResettingWithDefaultsGoesBackToTheOptionsOfTheStart) {

@@ -479,6 +479,7 @@ TEST_F(SharedSession, TheExchangesOfTwoThreadsDoNotMix) {
 class FaultySession : public Session {
  protected:
   void SetUp() override {
+    Session::SetUp();
     ScriptBringUp();
     ASSERT_STATUS(VI_SUCCESS, OpenResource(link.ResourceName()));
     ASSERT_STATUS(VI_SUCCESS, KVTD481X2C_SetIOTimeout(vi, 200));

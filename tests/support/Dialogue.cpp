@@ -17,6 +17,13 @@ std::string_view WithoutIndent(std::string_view line) {
   return first == std::string_view::npos ? std::string_view() : line.substr(first);
 }
 
+// A long block is told by its beginning and its size.
+std::string Shown(std::string_view bytes) {
+  constexpr std::size_t kMost = 200;
+  if (bytes.size() <= kMost) return Visible(bytes);
+  return Visible(bytes.substr(0, kMost)) + "... (" + std::to_string(bytes.size()) + " bytes)";
+}
+
 [[noreturn]] void Refuse(std::string_view line, const char* why) {
   throw std::invalid_argument("script line \"" + std::string(line) + "\": " + why);
 }
@@ -149,7 +156,7 @@ std::string Dialogue::Difference() const {
   const std::lock_guard lock(mutex_);
   if (!surprised_ && pending_.empty() && script_.empty()) return {};
   std::string text = "The dialogue did not go by the script ('-' never arrived, '+' came unasked):\n";
-  const auto line = [&text](const char* mark, std::string_view bytes) { (text += mark) += Visible(bytes) + '\n'; };
+  const auto line = [&text](const char* mark, std::string_view bytes) { (text += mark) += Shown(bytes) + '\n'; };
   bool missing_told = false;
   const auto tell_missing = [&] {
     if (std::exchange(missing_told, true)) return;

@@ -30,6 +30,9 @@ void PrintTo(const RecordedError& error, std::ostream* stream) {
   *stream << Hex{error.code} << " \"" << error.text << '"';
 }
 
+// The error of the thread outlives the sessions of an earlier test.
+void InstrumentDialogue::SetUp() { EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_ClearError(0)); }
+
 void InstrumentDialogue::TearDown() {
   if (vi != VI_NULL) Close();
   EXPECT_EQ("", instrument.Finish());
@@ -85,11 +88,15 @@ ViBoolean InstrumentDialogue::BooleanAttribute(ViAttr attribute) {
 }
 
 void DriverDialogue::SetUp() {
+  InstrumentDialogue::SetUp();
   ScriptBringUp();
   ASSERT_STATUS(VI_SUCCESS, Open());
 }
 
-void SimulatedDriver::SetUp() { ASSERT_STATUS(VI_SUCCESS, Open("Simulate=1")); }
+void SimulatedDriver::SetUp() {
+  InstrumentDialogue::SetUp();
+  ASSERT_STATUS(VI_SUCCESS, Open("Simulate=1"));
+}
 
 void SimulatedDriver::TearDown() {
   InstrumentDialogue::TearDown();

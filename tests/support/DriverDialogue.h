@@ -68,6 +68,7 @@ inline const RecordedError kNothingRecorded{};
 class InstrumentDialogue : public testing::Test {
  protected:
   explicit InstrumentDialogue(Family family = Family::V4) : instrument(family) {}
+  void SetUp() override;
   void TearDown() override;
 
   // The lines of an ordinary bring-up without status check: who are you, and the two units.

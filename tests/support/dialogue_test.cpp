@@ -90,6 +90,12 @@ TEST(Dialogue, BytesWithoutALineFeedAreToldAsWell) {
   EXPECT_THAT(dialogue.Difference(), HasSubstr("  + > :POW\n"));
 }
 
+TEST(Dialogue, ALongBlockIsToldByItsBeginningAndItsSize) {
+  Dialogue dialogue;
+  dialogue.Receive(std::string(5000, 'x') + "\n");
+  EXPECT_THAT(dialogue.Difference(), HasSubstr("xxx... (5001 bytes)\n"));
+}
+
 TEST(Dialogue, AnyLineBehindAnEmptyScriptIsASurprise) {
   Dialogue dialogue;
   dialogue.Receive("*CLS\n");
