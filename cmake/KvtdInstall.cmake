@@ -1,6 +1,7 @@
 # What `cmake --install` puts where: the library, the embedded components that it was linked with, the headers in one
 # folder of their own (a vendor's visa.h in the system's folder is not touched), the package files and the reference.
 include(CMakePackageConfigHelpers)
+find_package(Python3 3.11 REQUIRED COMPONENTS Interpreter)
 
 set(headers ${CMAKE_INSTALL_INCLUDEDIR}/KVTD481X2C)
 set(package ${CMAKE_INSTALL_LIBDIR}/cmake/KVTD481X2C)
