@@ -1,0 +1,41 @@
+"""The public header: printed from the rows, and good for every language that includes it."""
+
+import pathlib
+import shutil
+import tempfile
+import unittest
+
+import project
+
+WARNINGS = ["-Wall", "-Wextra", "-Wpedantic", "-Wconversion", "-Wshadow", "-Wundef", "-Werror"]
+FOLDERS = [word for folder in project.HEADER_FOLDERS for word in ("-I", str(folder))]
+
+
+class PublicHeader(unittest.TestCase):
+    def test_the_committed_header_is_what_the_rows_print(self):
+        with tempfile.TemporaryDirectory() as folder:
+            printed = pathlib.Path(folder, "KVTD481X2C.h")
+            project.catalogue("header", printed)
+            self.assertEqual(printed.read_text(encoding="utf-8"), project.text("inc/KVTD481X2C.h"),
+                             "run: cmake --build --preset dev --target header")
+
+    def check(self, compilers, language, standards, flags):
+        for compiler in compilers:
+            for standard in standards:
+                with self.subTest(compiler=compiler, standard=standard):
+                    if not shutil.which(compiler):
+                        self.skipTest(f"no {compiler} on this machine")
+                    status, said = project.compile_only(
+                        compiler, [f"-std={standard}", *WARNINGS, *flags, *FOLDERS],
+                        "#include <KVTD481X2C.h>\n#include <KVTD481X2C.h>\n", language)
+                    self.assertEqual((0, ""), (status, said))
+
+    def test_it_compiles_alone_and_twice_in_c(self):
+        self.check(["gcc", project.fact("clang") or "clang"], "c", ["c99", "c11", "c17"], ["-Wstrict-prototypes"])
+
+    def test_it_compiles_alone_and_twice_in_cpp(self):
+        self.check(["g++", project.fact("clangxx") or "clang++"], "c++", ["c++11", "c++17", "c++20"], [])
+
+
+if __name__ == "__main__":
+    unittest.main()
