@@ -109,7 +109,11 @@ ViStatus Session::SetAttribute(ViAttr attribute, ViAttrState value) {
       break;
   }
   const ViStatus status = settings_.Set(attribute, value);
-  return status == VI_ERROR_NSUP_ATTR ? transport().SetAttribute(attribute, value) : status;
+  if (status != VI_ERROR_NSUP_ATTR) return status;
+  // Some of these are an exchange with the device.
+  const std::lock_guard one_at_a_time(call_);
+  interruption_.BeginCall();
+  return transport().SetAttribute(attribute, value);
 }
 
 }  // namespace tvr::visa

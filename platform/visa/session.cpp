@@ -29,8 +29,9 @@ ViStatus Session::Open(ViAccessMode mode, ViUInt32 timeout_ms) {
   const bool socket = resource_.interface_type == VI_INTF_TCPIP && resource_.resource_class == "SOCKET";
   // The other kinds of resources are well-formed, and this library has no interface for them.
   if (resource_.interface_type != VI_INTF_TCPIP) return VI_ERROR_INTF_NUM_NCONFIG;
-  if (!socket) return VI_ERROR_LIBRARY_NFOUND;
-  if (const ViStatus status = OpenSocket(resource_, interruption_, deadline, transport); status < 0) return status;
+  if (!socket && !resource_.hislip) return VI_ERROR_LIBRARY_NFOUND;
+  const auto open = socket ? OpenSocket : OpenHislip;
+  if (const ViStatus status = open(resource_, interruption_, deadline, transport); status < 0) return status;
   link_.Attach(std::move(transport));
   if ((mode & VI_EXCLUSIVE_LOCK) != 0) {
     if (const ViStatus status = lock_->LockExclusive(holder_, timeout_ms); status < 0) return status;

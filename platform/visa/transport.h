@@ -73,5 +73,7 @@ class Transport {
 // Each protocol's way in. `interruption` outlives the transport.
 ViStatus OpenSocket(const ResourceName& resource, Interruption& interruption, Deadline& deadline,
                     std::unique_ptr<Transport>& opened);
+ViStatus OpenHislip(const ResourceName& resource, Interruption& interruption, Deadline& deadline,
+                    std::unique_ptr<Transport>& opened);
 
 }  // namespace tvr::visa

@@ -1,0 +1,221 @@
+#include "hislip_async.h"
+
+#include <algorithm>
+
+namespace tvr::visa::hislip {
+namespace {
+
+// An interruption of the session has to be noticed here too, though its descriptor is not waited for.
+constexpr ViUInt32 kSlice = 20;
+
+constexpr ViByte kLockGranted = 1;  // control code of AsyncLockResponse
+
+std::size_t IndexOf(Type type) { return static_cast<std::size_t>(type); }
+
+}  // namespace
+
+// A caller's time with the channel: the thread is made to let go of it.
+class AsyncChannel::Turn {
+ public:
+  explicit Turn(AsyncChannel& channel) : channel_(channel) {
+    ++channel_.callers_;
+    if (channel_.listening_) channel_.wake_.Request();
+    lock_ = std::unique_lock(channel_.guard_);
+    channel_.wake_.BeginCall();
+  }
+  ~Turn() {
+    --channel_.callers_;
+    lock_.unlock();
+    channel_.calm_.notify_all();
+  }
+  Turn(const Turn&) = delete;
+  Turn& operator=(const Turn&) = delete;
+
+ private:
+  AsyncChannel& channel_;
+  std::unique_lock<std::mutex> lock_;
+};
+
+ViStatus AsyncChannel::Connect(const std::string& host, ViUInt16 port, Deadline& deadline) {
+  return channel_.stream().Connect(host, port, deadline);
+}
+
+ViStatus AsyncChannel::Ask(const Question& question, Deadline& deadline, Answer& answer) {
+  const Turn turn(*this);
+  if (const ViStatus status = Send(question, deadline); status < 0) return status;
+  unsigned& unanswered = unanswered_[IndexOf(question.answer)];
+  for (;;) {
+    Header header;
+    if (const ViStatus status = Next(deadline, question.meanwhile, header); status < 0) {
+      ++unanswered;
+      return status;
+    }
+    if (unanswered == 0 && header.type == question.answer) {
+      answer.control = header.control;
+      answer.parameter = header.parameter;
+      return ReadNumber(deadline, answer.number);
+    }
+    if (header.type == Type::kError) {
+      // In the place of an answer; the oldest question is the one that was refused.
+      if (unanswered == 0) return VI_ERROR_IO;
+      --unanswered;
+      continue;
+    }
+    if (const ViStatus status = Meet(header, deadline); status < 0) return status;
+    if (deadline.Expired()) {
+      ++unanswered;
+      return VI_ERROR_TMO;
+    }
+  }
+}
+
+ViStatus AsyncChannel::Send(const Question& question, Deadline& deadline) {
+  std::size_t sent = 0;
+  const ViStatus status = channel_.Send(question.header, question.payload, deadline, sent);
+  // Messages here are so small that a peer which takes only a part of one has stopped reading long ago.
+  return channel_.Debt() > 0 ? VI_ERROR_CONN_LOST : status;
+}
+
+ViStatus AsyncChannel::Next(Deadline& deadline, const std::function<void()>* meanwhile, Header& header) {
+  for (;;) {
+    const int remaining = deadline.Remaining();
+    Deadline slice(remaining < 0 ? kSlice : std::min(static_cast<ViUInt32>(remaining), kSlice));
+    const ViStatus status = channel_.Next(slice, header);
+    if (status != VI_ERROR_TMO && status != VI_ERROR_ABORT) return status;
+    // Another caller may have meant the thread.
+    if (status == VI_ERROR_ABORT) wake_.BeginCall();
+    if (of_session_.Requested()) return VI_ERROR_ABORT;
+    if (deadline.Expired()) return VI_ERROR_TMO;
+    if (meanwhile != nullptr) (*meanwhile)();
+  }
+}
+
+ViStatus AsyncChannel::ReadNumber(Deadline& deadline, ViUInt64& number) {
+  number = 0;
+  std::array<ViByte, 8> bytes{};
+  if (channel_.PayloadLeft() != bytes.size()) return VI_SUCCESS;
+  std::size_t received = 0;
+  if (const ViStatus status = channel_.ReadPayload(bytes.data(), bytes.size(), deadline, received); status < 0) {
+    return status;
+  }
+  for (const ViByte byte : bytes) number = number << 8 | byte;
+  return VI_SUCCESS;
+}
+
+ViStatus AsyncChannel::Meet(const Header& header, Deadline& deadline) {
+  switch (header.type) {
+    case Type::kAsyncServiceRequest:
+      if (sink_) ++service_requests_;
+      return VI_SUCCESS;
+    case Type::kAsyncInterrupted:
+      interruptions_.fetch_add(1, std::memory_order_release);
+      return VI_SUCCESS;
+    case Type::kFatalError:
+      return VI_ERROR_CONN_LOST;
+    case Type::kError:
+      return VI_SUCCESS;
+    default:
+      break;
+  }
+  if (IndexOf(header.type) >= kTypes) return channel_.Refuse(header, deadline);
+  unsigned& unanswered = unanswered_[IndexOf(header.type)];
+  if (unanswered == 0) return VI_SUCCESS;
+  --unanswered;
+  if (header.type == Type::kAsyncLockResponse && header.control == kLockGranted) {
+    // Nobody waits for this lock any more, and nobody would ever release it.
+    ++unanswered;
+    return Send({.header = {Type::kAsyncLock}, .payload = {}, .answer = Type::kAsyncLockResponse}, deadline);
+  }
+  return VI_SUCCESS;
+}
+
+ViStatus AsyncChannel::AwaitInterruptions(ViUInt32 count, Deadline& deadline) {
+  const Turn turn(*this);
+  while (static_cast<std::int32_t>(count - Interruptions()) > 0) {
+    Header header;
+    if (const ViStatus status = Next(deadline, nullptr, header); status < 0) return status;
+    if (const ViStatus status = Meet(header, deadline); status < 0) return status;
+    if (deadline.Expired()) return VI_ERROR_TMO;
+  }
+  return VI_SUCCESS;
+}
+
+void AsyncChannel::ForgetUnanswered() {
+  const Turn turn(*this);
+  unanswered_.fill(0);
+}
+
+ViStatus AsyncChannel::DeliverServiceRequests(std::function<void()> sink) {
+  const Turn turn(*this);
+  sink_ = std::move(sink);
+  service_requests_ = 0;
+  if (sink_ && !thread_.joinable()) {
+    try {
+      thread_ = std::thread([self = shared_from_this()] { self->Listen(); });
+    } catch (const std::system_error&) {
+      sink_ = nullptr;
+      return VI_ERROR_ALLOC;
+    }
+    listening_ = true;
+  }
+  return VI_SUCCESS;
+}
+
+void AsyncChannel::Listen() {
+  std::unique_lock lock(guard_);
+  while (!closing_) {
+    if (service_requests_ > 0 && sink_) {
+      --service_requests_;
+      const auto sink = sink_;
+      lock.unlock();
+      sink();
+      lock.lock();
+      continue;
+    }
+    calm_.wait(lock, [this] { return callers_ == 0 || closing_ || service_requests_ > 0; });
+    wake_.BeginCall();
+    // A caller that came before the line above woke nobody.
+    if (callers_ > 0 || closing_ || service_requests_ > 0) continue;
+    Deadline none(VI_TMO_INFINITE);
+    Header header;
+    ViStatus status = channel_.Next(none, header);
+    if (status == VI_ERROR_ABORT) continue;
+    Deadline soon(kSlice);
+    if (status >= 0) status = Meet(header, soon);
+    if (status < 0 && status != VI_ERROR_ABORT) {
+      // The link is gone; the next call on it will find out.
+      if (status == kMalformed) SendMalformed();
+      HangUp();
+      return;
+    }
+  }
+}
+
+void AsyncChannel::TellMalformed() {
+  const Turn turn(*this);
+  SendMalformed();
+}
+
+void AsyncChannel::SendMalformed() {
+  Deadline at_once(VI_TMO_IMMEDIATE);
+  if (channel_.Debt() == 0) channel_.Send({Type::kFatalError, kPoorlyFormedHeader}, at_once);
+}
+
+void AsyncChannel::Close() {
+  closing_ = true;
+  HangUp();
+  if (!thread_.joinable()) return;
+  wake_.Request();
+  {
+    const std::lock_guard lock(guard_);
+    service_requests_ = 0;
+  }
+  calm_.notify_all();
+  if (thread_.get_id() == std::this_thread::get_id()) {
+    thread_.detach();
+  } else {
+    thread_.join();
+  }
+}
+
+}  // namespace tvr::visa::hislip

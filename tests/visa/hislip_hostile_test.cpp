@@ -1,0 +1,172 @@
+// A peer that does not keep to the protocol costs a call its result, and nothing else.
+#include <atomic>
+#include <thread>
+
+#include "hislip_peer.h"
+
+namespace tvr::visa::hislip {
+namespace {
+
+class HislipHostile : public HislipLink {};
+
+TEST_F(HislipHostile, AWrongPrologueEndsTheLinkAndIsToldOnBothChannels) {
+  Write("A?");
+  peer_.Next(kSync, 18);
+  peer_.Says(kSync, "HX" + std::string(14, '\0'));
+  EXPECT_EQ("", Read());
+  EXPECT_EQ(VI_ERROR_CONN_LOST, status_);
+  peer_.Hears(kSync, Frame("HS 02 01 00000000 0000000000000000"));
+  peer_.Hears(kAsync, Frame("HS 02 01 00000000 0000000000000000"));
+  peer_.HearsTheEnd(kSync);
+  peer_.HearsTheEnd(kAsync);
+  EXPECT_EQ(VI_ERROR_CONN_LOST, Write("B?"));
+}
+
+TEST_F(HislipHostile, AWrongPrologueOnTheOtherChannelEndsTheLinkToo) {
+  peer_.Says(kAsync, "GET / HTTP/1.1\r\n\r\n");
+  StatusByte();
+  EXPECT_EQ(VI_ERROR_CONN_LOST, status_);
+  peer_.Hears(kSync, Frame("HS 02 01 00000000 0000000000000000"));
+  EXPECT_EQ(VI_ERROR_CONN_LOST, Write("B?"));
+}
+
+TEST_F(HislipHostile, TheThreadThatListensEndsTheLinkAtAWrongPrologue) {
+  link_->DeliverServiceRequests([] {});
+  peer_.Says(kAsync, std::string(16, 'x'));
+  peer_.Hears(kAsync, Frame("HS 02 01 00000000 0000000000000000"));
+  peer_.HearsTheEnd(kAsync);
+  StatusByte();
+  EXPECT_EQ(VI_ERROR_CONN_LOST, status_);
+}
+
+TEST_F(HislipHostile, FatalErrorEndsTheLink) {
+  Write("A?");
+  peer_.Says(kSync, Frame("HS 02 00 00000000 0000000000000005", "fatal"));
+  Read();
+  EXPECT_EQ(VI_ERROR_CONN_LOST, status_);
+  peer_.HearsTheEnd(kAsync);
+}
+
+TEST_F(HislipHostile, AnErrorEndsTheReadAndTheLinkGoesOn) {
+  Write("A?");
+  peer_.Says(kSync, Frame("HS 03 04 00000000 0000000000000005", "large"));
+  Read();
+  EXPECT_EQ(VI_ERROR_IO, status_);
+  Write("B?");
+  peer_.Says(kSync, Frame("HS 07 00 FFFFFF02 0000000000000002", "ok"));
+  EXPECT_EQ("ok", Read());
+}
+
+TEST_F(HislipHostile, UnknownMessagesAreRefusedAndPassedOver) {
+  Write("A?");
+  peer_.Next(kSync, 18);
+  peer_.Says(kSync, Frame("HS 40 00 00000000 0000000000000003", "???"));
+  peer_.Says(kSync, Frame("HS C0 07 12345678 0000000000000003", "???"));
+  peer_.Says(kSync, Frame("HS 07 00 FFFFFF00 0000000000000002", "ok"));
+  EXPECT_EQ("ok", Read());
+  peer_.Hears(kSync, Frame("HS 03 01 00000000 0000000000000000"));
+  peer_.Hears(kSync, Frame("HS 03 03 00000000 0000000000000000"));
+  peer_.Says(kAsync, Frame("HS 63 00 00000000 0000000000000001", "?"));
+  peer_.Says(kAsync, Frame("HS 16 05 00000000 0000000000000000"));
+  EXPECT_EQ(0x05, StatusByte());
+}
+
+TEST_F(HislipHostile, ALengthOfTwoToTheSixtyFourFillsTheRoomAndNoMore) {
+  Write("A?");
+  peer_.Says(kSync, Frame("HS 07 00 FFFFFF00 FFFFFFFFFFFFFFFF", std::string(100, 'x')));
+  EXPECT_EQ(std::string(64, 'x'), Read(2000, 64));
+  EXPECT_EQ(VI_SUCCESS_MAX_CNT, status_);
+  const Stopwatch watch;
+  EXPECT_EQ(std::string(36, 'x'), Read(100, 64));
+  EXPECT_EQ(VI_ERROR_TMO, status_);
+  EXPECT_LT(watch.Milliseconds(), 200);
+}
+
+TEST_F(HislipHostile, NoMoreThanSixteenMegabytesAreHeldForAProof) {
+  Write("A?");
+  Read(10);
+  Write("B?");
+  peer_.Says(kSync, Frame("HS 06 00 FFFFFFFF 0000000001000001", "x"));
+  EXPECT_EQ("", Read());
+  EXPECT_EQ(VI_ERROR_OUTP_PROT_VIOL, status_);
+  std::thread device([&] {
+    peer_.Says(kSync, std::string(0x1000000, 'x'));
+    peer_.Says(kSync, Frame("HS 07 00 FFFFFF02 0000000000000003", "end"));
+  });
+  EXPECT_EQ("", Read(500)) << "the end of what was dropped is dropped too";
+  device.join();
+  Write("C?");
+  peer_.Says(kSync, Frame("HS 07 00 FFFFFF04 0000000000000002", "ok"));
+  EXPECT_EQ("ok", Read());
+}
+
+TEST_F(HislipHostile, BytesInDropsDoNotStretchTheTimeout) {
+  Write("A?");
+  std::atomic<bool> stop{false};
+  std::thread device([&] {
+    peer_.Says(kSync, Frame("HS 07 00 FFFFFF00 0000000000001000"));
+    while (!stop) {
+      peer_.Says(kSync, "x");
+      std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    }
+  });
+  const Stopwatch watch;
+  const std::string got = Read(150);
+  EXPECT_EQ(VI_ERROR_TMO, status_);
+  EXPECT_LT(watch.Milliseconds(), 250);
+  EXPECT_EQ(std::string(got.size(), 'x'), got);
+  stop = true;
+  device.join();
+}
+
+TEST_F(HislipHostile, AStreamOfForeignMessagesDoesNotStretchTheTimeout) {
+  Write("A?");
+  std::atomic<bool> stop{false};
+  std::string flood;
+  for (int i = 0; i < 64; ++i) flood += Frame("HS 07 00 00000002 0000000000000003", "no!");
+  std::thread sync([&] {
+    while (!stop) peer_.Says(kSync, flood);
+  });
+  const Stopwatch watch;
+  EXPECT_EQ("", Read(150));
+  EXPECT_EQ(VI_ERROR_TMO, status_);
+  EXPECT_LT(watch.Milliseconds(), 250);
+  stop = true;
+  while (sync.joinable()) {
+    Read(20);  // makes room for the last of it
+    if (stop) sync.join();
+  }
+}
+
+TEST_F(HislipHostile, AStreamOfServiceRequestsDoesNotStretchTheTimeout) {
+  std::atomic<bool> stop{false};
+  std::thread device([&] {
+    while (!stop) peer_.Says(kAsync, Frame("HS 14 40 00000000 0000000000000000"));
+  });
+  const Stopwatch watch;
+  Deadline deadline(150);
+  ViUInt16 byte = 0;
+  EXPECT_EQ(VI_ERROR_TMO, link_->ReadStatusByte(VI_PROT_NORMAL, deadline, byte));
+  EXPECT_LT(watch.Milliseconds(), 250);
+  stop = true;
+  device.join();
+}
+
+TEST_F(HislipHostile, AClosedChannelIsALostConnection) {
+  Write("A?");
+  peer_.Says(kSync, Frame("HS 06 00 FFFFFF00 0000000000000002", "ab"));
+  peer_.StopsSending(kSync);
+  EXPECT_EQ("ab", Read());
+  EXPECT_EQ(VI_ERROR_CONN_LOST, status_);
+  EXPECT_EQ(VI_ERROR_CONN_LOST, Write("B?"));
+}
+
+TEST_F(HislipHostile, AClosedAsynchronousChannelIsALostConnection) {
+  peer_.StopsSending(kAsync);
+  StatusByte();
+  EXPECT_EQ(VI_ERROR_CONN_LOST, status_);
+  EXPECT_EQ(VI_ERROR_CONN_LOST, Write("B?"));
+}
+
+}  // namespace
+}  // namespace tvr::visa::hislip
