@@ -32,8 +32,17 @@ set_target_properties(kvtd_visa PROPERTIES EXPORT_NAME visa)
 set_target_properties(kvtd_ivi_session PROPERTIES EXPORT_NAME ivi_session)
 set_target_properties(kvtd_ivi_config PROPERTIES EXPORT_NAME ivi_config)
 
-# Embedded components are found beside the driver, a vendor's where it was linked.
-set_target_properties(KVTD481X2C ${embedded} PROPERTIES INSTALL_RPATH "$ORIGIN" INSTALL_RPATH_USE_LINK_PATH ON)
+# Embedded components are found beside the driver, a vendor's where it was linked. The linker of a program that uses the
+# driver searches there as well.
+set(runpath "$ORIGIN")
+foreach(vendor IN LISTS KVTD_VISA_LIBRARY KVTD_IVI_SESSION_LIBRARY KVTD_IVI_CONFIG_LIBRARY)
+  get_filename_component(folder ${vendor} DIRECTORY)
+  if(NOT folder IN_LIST CMAKE_CXX_IMPLICIT_LINK_DIRECTORIES)
+    list(APPEND runpath ${folder})
+  endif()
+endforeach()
+list(REMOVE_DUPLICATES runpath)
+set_target_properties(KVTD481X2C ${embedded} PROPERTIES INSTALL_RPATH "${runpath}")
 
 install(TARGETS KVTD481X2C kvtd_visa kvtd_ivi_session kvtd_ivi_config ${embedded} EXPORT KVTD481X2CTargets
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
