@@ -1,5 +1,6 @@
 #include "Dialogue.h"
 
+#include <algorithm>
 #include <charconv>
 #include <stdexcept>
 #include <utility>
@@ -92,6 +93,11 @@ void Dialogue::AnswerAlways(std::string_view line, std::string_view answer) {
   always_.insert_or_assign(std::string(line) + '\n', std::string(answer) + '\n');
 }
 
+void Dialogue::AnswerNothing(std::string_view line) {
+  const std::lock_guard lock(mutex_);
+  always_.insert_or_assign(std::string(line) + '\n', std::string());
+}
+
 std::vector<Reaction> Dialogue::Receive(std::string_view bytes) {
   const std::lock_guard lock(mutex_);
   pending_ += bytes;
@@ -115,6 +121,7 @@ std::vector<Reaction> Dialogue::Receive(std::string_view bytes) {
     pending_.erase(0, end + 1);
     if (const auto always = always_.find(line); !surprised_ && always != always_.end()) {
       log_.push_back({Entry::Kind::Arrived, std::move(line)});
+      if (always->second.empty()) continue;
       reactions.push_back({.kind = Reaction::Kind::Answer, .bytes = always->second});
       log_.push_back({Entry::Kind::Answered, always->second});
     } else {
@@ -135,6 +142,8 @@ void Dialogue::Note(const std::vector<Reaction>& reactions) {
 void Dialogue::Connected() {
   const std::lock_guard lock(mutex_);
   ++connections_;
+  // A line that an earlier connection began ends with that connection.
+  if (!pending_.empty()) log_.push_back({Entry::Kind::Surprise, std::exchange(pending_, {})});
 }
 
 std::vector<std::string> Dialogue::Received() const {
@@ -154,7 +163,9 @@ int Dialogue::Connections() const {
 
 std::string Dialogue::Difference() const {
   const std::lock_guard lock(mutex_);
-  if (!surprised_ && pending_.empty() && script_.empty()) return {};
+  const bool surprise =
+      std::any_of(log_.begin(), log_.end(), [](const Entry& entry) { return entry.kind == Entry::Kind::Surprise; });
+  if (!surprise && pending_.empty() && script_.empty()) return {};
   std::string text = "The dialogue did not go by the script ('-' never arrived, '+' came unasked):\n";
   const auto line = [&text](const char* mark, std::string_view bytes) { (text += mark) += Shown(bytes) + '\n'; };
   bool missing_told = false;

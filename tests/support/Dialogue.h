@@ -44,6 +44,8 @@ class Dialogue {
 
   // From now on this line, where the script does not expect it, is answered so and is no surprise.
   void AnswerAlways(std::string_view line, std::string_view answer);
+  // From now on this line, where the script does not expect it, is taken without an answer and is no surprise.
+  void AnswerNothing(std::string_view line);
 
   // For the link. What the instrument does about these bytes; after a surprise it ends the connection, so that a
   // client does not wait its whole timeout for an answer that nobody scripted.
@@ -74,10 +76,12 @@ class Dialogue {
 
   mutable std::mutex mutex_;
   std::deque<Exchange> script_;
+  // The answers that belong to lines; empty for a line that gets none.
   std::map<std::string, std::string, std::less<>> always_;
   std::string pending_;
   std::vector<Entry> log_;
   int connections_ = 0;
+  // Nothing is answered any more.
   bool surprised_ = false;
 };
 

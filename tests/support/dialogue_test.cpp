@@ -116,6 +116,13 @@ TEST(Dialogue, ADefaultAnswerServesEveryLineThatTheScriptDoesNotExpect) {
   EXPECT_EQ("", dialogue.Difference());
 }
 
+TEST(Dialogue, ALineThatGetsNoAnswerIsNoSurprise) {
+  Dialogue dialogue;
+  dialogue.AnswerNothing("*CLS");
+  EXPECT_THAT(dialogue.Receive("*CLS\n*CLS\n"), IsEmpty());
+  EXPECT_EQ("", dialogue.Difference());
+}
+
 TEST(Dialogue, RawBytesAreExpectedAndAnsweredAsTheyAre) {
   Dialogue dialogue;
   dialogue.Sent(Literal("#13\n\0\n\n"));

@@ -83,6 +83,17 @@ TEST(ScriptedInstrument, TheScriptGoesOnInTheNextConnection) {
   EXPECT_EQ(2, instrument.Connections());
 }
 
+TEST(ScriptedInstrument, ALineThatAConnectionLeftUnfinishedIsToldAndNotGluedToTheNext) {
+  ScriptedInstrument instrument;
+  instrument.Script("> B\n< 2");
+  Client(instrument).Send("A");
+  Client second(instrument);
+  second.Send("B\n");
+  EXPECT_EQ("2\n", second.Line());
+  second.Close();
+  EXPECT_THAT(instrument.Finish(), HasSubstr("+ > A\n"));
+}
+
 TEST(ScriptedInstrument, AClientThatCameAndWentAtOnceIsSeen) {
   ScriptedInstrument instrument;
   Client(instrument).Send("*CLS\n");
