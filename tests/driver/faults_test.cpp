@@ -93,8 +93,9 @@ TEST_F(BrokenLink, ABringUpThatBreaksAnywhereEndsInAStatusAndLeavesNothingOpen) 
   link.Heal();
   EXPECT_STATUS(VI_SUCCESS, Open("QueryInstrStatus=1"));
   Close();
-  // The proxy may still hold the two ends of its last connection.
-  EXPECT_LE(OpenDescriptors(), before + 2);
+  // Of the hundreds of connections the doubles, in threads of their own, may not have closed the last one yet.
+  constexpr int kOneConnection = 3;
+  EXPECT_LE(OpenDescriptors(), before + kOneConnection);
 }
 
 TEST_F(BrokenLink, AQueryThatBreaksAnywhereGivesAStatusOrTheRightValue) {
