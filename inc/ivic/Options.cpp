@@ -1,5 +1,7 @@
 // The option string: the six inherent options, and DriverSetup behind them.
 
+#include <algorithm>
+#include <locale>
 #include <regex>
 
 #include "Assertions.h"
@@ -15,8 +17,10 @@ constexpr auto kGrammar = std::regex::ECMAScript | std::regex::optimize | std::r
 constexpr auto kGrammar = std::regex::ECMAScript | std::regex::optimize;
 #endif
 
+// Blanks in front of the word are left to the inherent options, which skip them. Taken into the pattern, a run of them
+// would be searched anew from each of its blanks.
 const std::regex& DriverSetupPattern() {
-  static const std::regex pattern(R"(\s*DriverSetup\s*=(.*))", kGrammar | std::regex::icase);
+  static const std::regex pattern(R"(DriverSetup\s*=(.*))", kGrammar | std::regex::icase);
   return pattern;
 }
 
@@ -29,6 +33,37 @@ const std::regex& InherentOptionPattern() {
   static const std::regex pattern(R"(\s*(\w+)\s*=\s*(\w+)\s*,?)", kGrammar);
   return pattern;
 }
+
+// Walks the pairs of a text from left to right; what lies between them is skipped. A pair is tried only where a name
+// begins: a search at every character would take the square of a long name's length to find that it is none.
+class PairWalk {
+ public:
+  // `more` are the characters that a name may have besides letters, digits and the underscore.
+  PairWalk(const std::string& text, const std::regex& pattern, std::string_view more)
+      : rest_(text.begin()), end_(text.end()), pattern_(pattern), more_(more), locale_(pattern.getloc()) {}
+
+  bool Next(std::smatch& match) {
+    const auto in_name = [this](char c) {
+      return std::isalnum(c, locale_) || c == '_' || more_.find(c) != std::string_view::npos;
+    };
+    for (;;) {
+      rest_ = std::find_if(rest_, end_, in_name);
+      if (rest_ == end_) return false;
+      if (std::regex_search(rest_, end_, match, pattern_, std::regex_constants::match_continuous)) {
+        rest_ = match[0].second;
+        return true;
+      }
+      rest_ = std::find_if_not(rest_, end_, in_name);
+    }
+  }
+
+ private:
+  std::string::const_iterator rest_;
+  std::string::const_iterator end_;
+  const std::regex& pattern_;
+  std::string_view more_;
+  std::locale locale_;
+};
 
 }  // namespace
 
@@ -44,14 +79,14 @@ ViStatus DriverSession::ParseDriverSetup(const std::string& text) {
   driver_setup_ = text;
 
   ViStatus status = VI_SUCCESS;
-  const std::sregex_iterator end;
-  for (std::sregex_iterator match(text.begin(), text.end(), DriverSetupOptionPattern()); match != end; ++match) {
-    if (match->size() != 3) {
+  std::smatch match;
+  for (PairWalk walk(text, DriverSetupOptionPattern(), "+"); walk.Next(match);) {
+    if (match.size() != 3) {
       status = ReportErrorText(error::kCannotRecover, "Failed to parse the DriverSetup string.");
       if (status < 0) break;
     }
-    const std::string name = (*match)[1].str();
-    const std::string value = (*match)[2].str();
+    const std::string name = match[1].str();
+    const std::string value = match[2].str();
     status = ApplyDriverSetupOption(name, value);
     if (status < 0) break;
     if (driver_setup_options_.contains(name)) {
@@ -81,9 +116,8 @@ ViStatus DriverSession::ParseInherentOptions(const std::string& text) {
 
   const std::string lower = LowerCase(text);
   ViStatus status = VI_SUCCESS;
-  const std::sregex_iterator end;
-  for (std::sregex_iterator it(lower.begin(), lower.end(), InherentOptionPattern()); it != end && status >= 0; ++it) {
-    const std::smatch& match = *it;
+  std::smatch match;
+  for (PairWalk walk(lower, InherentOptionPattern(), ""); status >= 0 && walk.Next(match);) {
     assert(match.size() == 3 && "Failed to parse inherent option.");
     const std::string name = match[1].str();
     const std::string value = match[2].str();
