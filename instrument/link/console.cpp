@@ -10,6 +10,8 @@ bool CarryOut(std::string_view line, model::Instrument& instrument, FaultPlan& f
     instrument.generator().TripProtection();
   } else if (line == "trigger") {
     instrument.generator().sweep.ExternalTrigger();
+  } else if (line == "insert-usb") {
+    instrument.files().InsertUsb();
   } else if (line == "clear-faults") {
     faults.Clear();
   } else if (line.starts_with(kFault)) {

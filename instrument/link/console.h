@@ -1,5 +1,5 @@
-// What a person at the bench does to the instrument, as lines on standard input: "trip", "trigger", "fault cut@1",
-// "clear-faults".
+// What a person at the bench does to the instrument, as lines on standard input: "trip", "trigger",
+// "insert-usb", "fault cut@1", "clear-faults".
 #pragma once
 
 #include <string_view>

@@ -50,6 +50,16 @@ class Host::Impl : public Services {
 
   void Worked() override {
     instrument_.CatchUp();
+    switch (instrument_.TakePowerEvent()) {
+      case model::PowerEvent::kNone:
+        break;
+      case model::PowerEvent::kReboot:
+        asio::post(io_, [this] { CloseLinks(); });
+        break;
+      case model::PowerEvent::kShutdown:
+        Stop();
+        break;
+    }
     if (!instrument_.operations_pending()) {
       ForEachLink([this](const std::shared_ptr<Link>& link) {
         if (link->waiting()) asio::post(io_, [link] { link->Pump(); });

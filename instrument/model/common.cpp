@@ -18,7 +18,7 @@ void AddCommon(scpi::Commands& commands, Instrument& instrument) {
     call.answer.Plain("Kelvora");
     call.answer.Plain(identity.variant.name);
     call.answer.Plain(identity.serial);
-    call.answer.Plain(identity.firmware);
+    call.answer.Plain(instrument.firmware().version());
   });
   commands.Do("*CLS", kNothing, [&instrument](Call&) {
     instrument.ForgetOperationComplete();

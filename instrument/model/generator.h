@@ -19,6 +19,7 @@ class Generator {
 
   void Reset();
   void Load(const Settings& settings);
+  void ClearLists() { now.lists = {}; }
 
   scpi::Limits FrequencyLimits(double usual) const { return {kLowestFrequency, variant_.highest_frequency, usual}; }
   // The level as it is shown: the display offset, when on, counts.

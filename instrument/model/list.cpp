@@ -4,6 +4,7 @@
 
 #include "model/bind.h"
 #include "model/generator.h"
+#include "model/limits.h"
 #include "model/sweep_plan.h"
 #include "model/trees.h"
 
@@ -117,12 +118,11 @@ void AddList(Commands& commands, Generator& generator) {
     call.answer.Integer(std::max(0, LastPlayed(list, static_cast<std::size_t>(PointsOf(list)))));
   });
 
-  const Limits dwell{1e-4, 100.0, 0.05};
-  commands.Do("LIST<1-10>:DWELl", scpi::kOne, [&generator, dwell](Call& call) {
-    generator.now.list(call.suffix()).dwell = call.Real(Quantity::kTime, dwell);
+  commands.Do("LIST<1-10>:DWELl", scpi::kOne, [&generator](Call& call) {
+    generator.now.list(call.suffix()).dwell = call.Real(Quantity::kTime, kDwellLimits);
   });
-  commands.Ask("LIST<1-10>:DWELl", {0, 1}, [&generator, dwell](Call& call) {
-    AnswerReal(call, Quantity::kTime, generator.now.list(call.suffix()).dwell, dwell);
+  commands.Ask("LIST<1-10>:DWELl", {0, 1}, [&generator](Call& call) {
+    AnswerReal(call, Quantity::kTime, generator.now.list(call.suffix()).dwell, kDwellLimits);
   });
   commands.Do("LIST<1-10>:COPY", scpi::kNothing,
               [&generator](Call& call) { CopySweep(generator, generator.now.list(call.suffix())); });

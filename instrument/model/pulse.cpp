@@ -1,6 +1,7 @@
 // :PULM, the pulse modulator, :PULSe, its generator, and :TRIGger:SEQuence3, that generator's trigger.
 #include "model/bind.h"
 #include "model/generator.h"
+#include "model/limits.h"
 #include "model/modulation.h"
 #include "model/modulation_words.h"
 #include "model/trees.h"
@@ -19,7 +20,6 @@ constexpr scpi::Word<PulseTrigger> kTriggers[] = {
     {"TRGDelay", PulseTrigger::kTriggerDelayed}, {"COMPosite", PulseTrigger::kComposite},
 };
 
-constexpr Limits kPeriod{20e-9, 1000.0, 1e-3};
 constexpr Limits kWidth{0.0, 1000.0, 1e-4};
 constexpr Limits kDelay{0.0, 1000.0, 0.0};
 
@@ -45,17 +45,18 @@ void AddPulse(Commands& commands, Generator& generator) {
   commands.Ask("PULM:ERRor", scpi::kNothing,
                [&generator](Call& call) { call.answer.Boolean(PulseError(generator.now)); });
   // The frequency is the period seen from the other side.
-  BindReal(commands, "PULM:FREQuency",
-           {Quantity::kFrequency,
-            [] {
-              return Limits{1.0 / kPeriod.most, 1.0 / kPeriod.least, 1.0 / kPeriod.usual};
-            },
-            [&pulse] { return 1.0 / pulse.period; },
-            [&pulse](double value) { pulse.period = 1.0 / value; },
-            {}});
+  BindReal(
+      commands, "PULM:FREQuency",
+      {Quantity::kFrequency,
+       [] {
+         return Limits{1.0 / kPulsePeriodLimits.most, 1.0 / kPulsePeriodLimits.least, 1.0 / kPulsePeriodLimits.usual};
+       },
+       [&pulse] { return 1.0 / pulse.period; },
+       [&pulse](double value) { pulse.period = 1.0 / value; },
+       {}});
 
-  BindReal(commands, "PULSe:PERiod", Quantity::kTime, kPeriod, pulse.period);
-  BindInteger(commands, "PULSe:COUNt", 1, 4, 1, pulse.count);
+  BindReal(commands, "PULSe:PERiod", Quantity::kTime, kPulsePeriodLimits, pulse.period);
+  BindInteger(commands, "PULSe:COUNt", 1, kMostPulses, 1, pulse.count);
   AddSlots(commands, "PULSe:WIDTh<1-4>", kWidth, pulse.widths);
   AddSlots(commands, "PULSe:DELay<1-4>", kDelay, pulse.delays);
 

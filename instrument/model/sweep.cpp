@@ -4,6 +4,7 @@
 
 #include "model/bind.h"
 #include "model/generator.h"
+#include "model/limits.h"
 #include "model/sweep_plan.h"
 #include "model/trees.h"
 
@@ -29,10 +30,6 @@ constexpr Range kFrequencyPresets[] = {{1, 2}, {3, 4}, {5, -1}, {6, -1}};
 constexpr scpi::Word<int> kPowerRanges[] = {{"L1L2", 0}, {"L3L4", 1}, {"L5L6", 2}, {"L7L8", 3}, {"L9L0", 4}};
 constexpr Range kPowerPresets[] = {{1, 2}, {3, 4}, {5, 6}, {7, 8}, {9, 0}};
 
-constexpr Limits kDwell{1e-4, 100.0, 0.05};
-constexpr Limits kTime{1e-3, 1000.0, 1.0};
-constexpr int kMostPoints = 1'000'000;
-
 using Span = std::function<double()>;
 
 // What the two sweeps have in common.
@@ -40,7 +37,7 @@ void AddSweep(Commands& commands, const std::string& tree, SweepSettings& sweep,
   BindChoice(commands, tree + ":DIRection", kDirections, sweep.direction);
 
   commands.Do(tree + ":POINts", scpi::kOne, [&sweep](Call& call) {
-    sweep.points = static_cast<int>(call.Integer(2, kMostPoints, 101));
+    sweep.points = static_cast<int>(call.Integer(kFewestSweepPoints, kMostSweepPoints, 101));
     sweep.step.reset();
   });
   commands.Ask(tree + ":POINts", scpi::kNothing,
@@ -48,7 +45,7 @@ void AddSweep(Commands& commands, const std::string& tree, SweepSettings& sweep,
 
   BindReal(commands, tree + ":DWELl",
            {Quantity::kTime,
-            [] { return kDwell; },
+            [] { return kDwellLimits; },
             [&sweep, span] { return SweepDwell(sweep, span()); },
             [&sweep](double value) {
               sweep.dwell = value;
@@ -58,7 +55,8 @@ void AddSweep(Commands& commands, const std::string& tree, SweepSettings& sweep,
   BindReal(commands, tree + ":TIME",
            {Quantity::kTime,
             [&sweep] {
-              return Limits{std::max(kTime.least, sweep.shortest_time), kTime.most, kTime.usual};
+              return Limits{std::max(kSweepTimeLimits.least, sweep.shortest_time), kSweepTimeLimits.most,
+                            kSweepTimeLimits.usual};
             },
             [&sweep, span] { return SweepTime(sweep, span()); },
             [&sweep](double value) {
@@ -66,12 +64,14 @@ void AddSweep(Commands& commands, const std::string& tree, SweepSettings& sweep,
               sweep.dwell_auto = true;
             },
             {}});
-  BindReal(commands, tree + ":TIME:LLIMit", Quantity::kTime, {0.0, kTime.most, 0.0}, sweep.shortest_time);
+  BindReal(commands, tree + ":TIME:LLIMit", Quantity::kTime, {0.0, kSweepTimeLimits.most, 0.0}, sweep.shortest_time);
 
   // Of time and dwell one follows the other; an analog sweep has a time and nothing that follows.
   const auto set_dwell_auto = [&sweep, span](bool on) {
-    if (on && !sweep.dwell_auto) sweep.time = std::clamp(SweepTime(sweep, span()), kTime.least, kTime.most);
-    if (!on && sweep.dwell_auto) sweep.dwell = std::clamp(SweepDwell(sweep, span()), kDwell.least, kDwell.most);
+    if (on && !sweep.dwell_auto)
+      sweep.time = std::clamp(SweepTime(sweep, span()), kSweepTimeLimits.least, kSweepTimeLimits.most);
+    if (!on && sweep.dwell_auto)
+      sweep.dwell = std::clamp(SweepDwell(sweep, span()), kDwellLimits.least, kDwellLimits.most);
     sweep.dwell_auto = on;
   };
   const auto analog = [&sweep] { return sweep.generation == Generation::kAnalog; };
@@ -100,7 +100,7 @@ void AddFrequencySweep(Commands& commands, Generator& generator) {
 
   AddSweep(commands, "SWEep<1>", sweep, span);
   AddStep(commands, "SWEep<1>[:FREQuency]:STEP", Quantity::kFrequency,
-          {0.001, generator.variant().highest_frequency, 1e6}, sweep, span);
+          {kSmallestStep, generator.variant().highest_frequency, 1e6}, sweep, span);
   BindChoice(commands, "SWEep<1>:SPACing", kSpacings, sweep.spacing);
   BindChoice(commands, "SWEep<1>:GENeration", kGenerations, sweep.generation);
   commands.Do("SWEep<1>:RANGe", scpi::kOne, [&generator, &frequency](Call& call) {
@@ -126,7 +126,8 @@ void AddPowerSweep(Commands& commands, Generator& generator) {
   const Span span = [&power] { return power.stop - power.start; };
 
   AddSweep(commands, "SWEep<2>", sweep, span);
-  AddStep(commands, "SWEep<2>[:POWer]:STEP", Quantity::kRatio, {0.001, kHighestPower - kLowestPower, 1.0}, sweep, span);
+  AddStep(commands, "SWEep<2>[:POWer]:STEP", Quantity::kRatio, {kSmallestStep, kHighestPower - kLowestPower, 1.0},
+          sweep, span);
   commands.Do("SWEep<2>:RANGe", scpi::kOne, [&power](Call& call) {
     const Range range = kPowerPresets[call.Choice(std::span<const scpi::Word<int>>(kPowerRanges))];
     power.start = power.presets[static_cast<std::size_t>(range.first)];

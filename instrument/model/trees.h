@@ -11,6 +11,7 @@ namespace siggen::model {
 
 class Generator;
 class Instrument;
+struct NetworkSettings;
 
 void AddCommon(scpi::Commands& commands, Instrument& instrument);
 void AddFrequency(scpi::Commands& commands, Generator& generator);
@@ -27,5 +28,11 @@ void AddTrigger(scpi::Commands& commands, Generator& generator);
 void AddMeasure(scpi::Commands& commands, Generator& generator);
 void AddStatus(scpi::Commands& commands, scpi::Status& status);
 void AddSystem(scpi::Commands& commands, Instrument& instrument);
+void AddTime(scpi::Commands& commands, Instrument& instrument);
+void AddNetwork(scpi::Commands& commands, NetworkSettings& network);
+void AddFirmware(scpi::Commands& commands, Instrument& instrument);
+void AddReference(scpi::Commands& commands, Instrument& instrument);
+void AddDiagnostics(scpi::Commands& commands, Instrument& instrument);
+void AddMassMemory(scpi::Commands& commands, Instrument& instrument);
 
 }  // namespace siggen::model

@@ -41,4 +41,15 @@ std::string ErrorQueue::PopAll() {
   return all;
 }
 
+void ErrorLog::Add(Error error, std::string_view detail) {
+  if (entries_.size() == kRoom) entries_.pop_front();
+  entries_.push_back(Entry(error, detail));
+}
+
+std::string ErrorLog::Text() const {
+  std::string text;
+  for (const std::string& entry : entries_) text += (text.empty() ? "" : ",") + entry;
+  return text;
+}
+
 }  // namespace siggen::scpi

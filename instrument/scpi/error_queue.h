@@ -25,4 +25,16 @@ class ErrorQueue {
   std::deque<std::string> entries_;
 };
 
+// The youngest errors since power on, which reading and *CLS leave alone.
+class ErrorLog {
+ public:
+  static constexpr std::size_t kRoom = 50;
+
+  void Add(Error error, std::string_view detail);
+  std::string Text() const;  // oldest first, joined by commas; empty when there was none
+
+ private:
+  std::deque<std::string> entries_;
+};
+
 }  // namespace siggen::scpi

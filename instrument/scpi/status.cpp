@@ -35,6 +35,7 @@ void Status::Report(Error error, std::string_view detail) {
   SetStandardEvent(StandardEventOf(error));
   if (errors.size() == ErrorQueue::kRoom) SetStandardEvent(StandardEventOf(Error::kQueueOverflow));
   errors.Push(error, detail);
+  log.Add(error, detail);
 }
 
 std::uint8_t Status::TakeStandardEvent() { return std::exchange(standard_event_, std::uint8_t{0}); }

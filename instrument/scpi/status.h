@@ -47,6 +47,7 @@ class Status {
   ErrorQueue errors;
   StatusRegister operation;
   StatusRegister questionable;
+  ErrorLog log;
   std::uint8_t standard_enable = 0;
   std::uint8_t service_enable = 0;
 

@@ -49,7 +49,7 @@ class Bench : public ::testing::Test {
   }
 
   model::Instant now_{};
-  model::Instrument instrument_{model::Identity{}, [this] { return now_; }};
+  model::Instrument instrument_{model::Identity{}, [this] { return now_; }, model::WallTime{}};
   scpi::Session session_{instrument_};
 };
 

@@ -86,6 +86,14 @@ TEST(Program, EndsCleanlyOnSigterm) {
   EXPECT_EQ(0, program.Wait());
 }
 
+TEST(Program, EndsWhenItIsShutDown) {
+  Program program({"--socket", "0"});
+  Client client(PortIn(program.Line()));
+  client.Send(":SYST:SHUT\n");
+  EXPECT_EQ(0, client.WaitForEnd());
+  EXPECT_EQ(0, program.Wait());
+}
+
 TEST(Program, TakesFaultsFromTheCommandLineAndFromTheBench) {
   Program program({"--socket", "0", "--exit-with-stdin", "--fault", "terminator@1"});
   const std::uint16_t port = PortIn(program.Line());

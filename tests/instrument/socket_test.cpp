@@ -79,6 +79,24 @@ TEST_F(Socket, OthersAreServedWhileOneWaits) {
   EXPECT_EQ("1\n", client_.Receive());
 }
 
+TEST_F(Socket, ALargeFileGoesInAndComesOut) {
+  std::string data(std::size_t{32} << 20, '\0');
+  for (std::size_t i = 0; i < data.size(); ++i) data[i] = static_cast<char>(i * 31 + (i >> 12));
+  client_.Send(":MMEM:DATA \"Internal\",\"big\",#833554432" + data + "\n:MMEM:DATA? \"Internal\",\"big\"\n");
+  const std::string answer = client_.ReceiveBytes(data.size() + 11);
+  ASSERT_EQ(data.size() + 11, answer.size());
+  EXPECT_EQ("#833554432", answer.substr(0, 10));
+  EXPECT_TRUE(std::string_view(answer).substr(10, data.size()) == data);
+  EXPECT_EQ('\n', answer.back());
+}
+
+TEST_F(Socket, ARebootClosesTheLinksAndComesBackPreset) {
+  client_.Send(":FREQ 2e9;:SYST:REB\n");
+  EXPECT_EQ(0, client_.WaitForEnd());
+  Client again(instrument_.port());
+  EXPECT_EQ("1000000000", again.Ask(":FREQ?"));
+}
+
 TEST_F(Socket, DelayMakesTheAnswerLate) {
   instrument_.Inject("delay:150@1");
   const auto begin = std::chrono::steady_clock::now();

@@ -1,0 +1,185 @@
+#include "link/hislip_server.h"
+
+#include <algorithm>
+#include <asio/steady_timer.hpp>
+#include <cctype>
+#include <chrono>
+#include <map>
+#include <set>
+
+#include "link/hislip_channel.h"
+#include "link/hislip_locks.h"
+#include "link/hislip_session.h"
+
+namespace siggen::link {
+
+using asio::ip::tcp;
+using namespace hislip;
+
+namespace {
+
+constexpr std::size_t kMostClients = 16;
+constexpr std::size_t kMostGuests = 32;
+constexpr std::chrono::seconds kPatienceForGreeting{10};
+
+bool IsOurName(std::string name) {
+  std::transform(name.begin(), name.end(), name.begin(),
+                 [](char c) { return static_cast<char>(std::tolower(static_cast<unsigned char>(c))); });
+  return name.empty() || name == "hislip0";
+}
+
+}  // namespace
+
+class HislipServer::Impl : public Hall {
+ public:
+  Impl(Services& services, const std::string& address, std::uint16_t port)
+      : services_(services), locks_(services.io(), [this] { LocksChanged(); }), acceptor_(services.io()) {
+    const tcp::endpoint endpoint(asio::ip::make_address(address), port);
+    acceptor_.open(endpoint.protocol());
+    acceptor_.set_option(tcp::acceptor::reuse_address(true));
+    acceptor_.bind(endpoint);
+    acceptor_.listen();
+    Accept();
+  }
+
+  Services& services() override { return services_; }
+  Locks& locks() override { return locks_; }
+  void Leave(Session& session) override { sessions_.erase(session.id()); }
+
+  std::uint16_t port() const { return acceptor_.local_endpoint().port(); }
+  template <class Work>
+  void ForEach(Work work) {
+    for (const auto& [id, session] : std::map(sessions_)) work(session);
+  }
+  void StatusChanged() {
+    if (!sessions_.empty()) ForEach([](const auto& session) { session->StatusChanged(); });
+  }
+  void CloseClients() {
+    ForEach([](const auto& session) { session->Close(); });
+    for (const auto& guest : std::set(guests_)) Dismiss(guest);
+  }
+  void StopListening() {
+    asio::error_code ignored;
+    acceptor_.close(ignored);
+  }
+
+ private:
+  // A connection of which nobody knows yet which it will be.
+  class Guest : public Receiver, public std::enable_shared_from_this<Guest> {
+   public:
+    Guest(Impl& server, std::shared_ptr<Channel> its_channel)
+        : channel(std::move(its_channel)), server_(server), timer_(server.services_.io(), kPatienceForGreeting) {}
+
+    void Start() {
+      channel->SetReceiver(shared_from_this());
+      timer_.async_wait([self = shared_from_this()](const asio::error_code& problem) {
+        if (!problem) self->server_.Dismiss(self);
+      });
+      channel->Resume();
+    }
+    void Cancel() { timer_.cancel(); }
+
+    bool Ready(Channel&) override { return true; }
+    Payload Begins(Channel&, const Header& header) override {
+      const bool greets = (header.message == Message::kInitialize && header.length <= kLongestText) ||
+                          (header.message == Message::kAsyncInitialize && header.length == 0);
+      if (!greets) server_.Refuse(shared_from_this(), Fatal::kInvalidInitialization);
+      return greets ? Payload::kCollect : Payload::kDrop;
+    }
+    void Ends(Channel&, const Header& header, const std::string& text) override {
+      if (header.message == Message::kInitialize) {
+        server_.Initialize(shared_from_this(), header, text);
+      } else {
+        server_.AsyncInitialize(shared_from_this(), header);
+      }
+    }
+    std::span<char> Room() override { return {}; }
+    void Filled(std::size_t) override {}
+    void Malformed(Channel&) override { server_.Refuse(shared_from_this(), Fatal::kPoorHeader); }
+    void Lost(Channel&) override { server_.Dismiss(shared_from_this()); }
+
+    const std::shared_ptr<Channel> channel;
+
+   private:
+    Impl& server_;
+    asio::steady_timer timer_;
+  };
+  using GuestPointer = std::shared_ptr<Guest>;
+
+  void Accept() {
+    acceptor_.async_accept([this](const asio::error_code& problem, tcp::socket socket) {
+      if (!acceptor_.is_open()) return;
+      if (!problem) {
+        const auto guest = std::make_shared<Guest>(*this, std::make_shared<Channel>(std::move(socket)));
+        if (guests_.size() < kMostGuests) {
+          guests_.insert(guest);
+          guest->Start();
+        } else {
+          guest->channel->SendFatal(Fatal::kTooManyClients);
+        }
+      }
+      Accept();
+    });
+  }
+
+  void Farewell(const GuestPointer& guest) {
+    guest->Cancel();
+    guests_.erase(guest);
+  }
+  void Dismiss(const GuestPointer& guest) {
+    Farewell(guest);
+    guest->channel->Close();
+  }
+  void Refuse(const GuestPointer& guest, Fatal fatal) {
+    Farewell(guest);
+    guest->channel->SendFatal(fatal);
+  }
+
+  void Initialize(const GuestPointer& guest, const Header& header, const std::string& name) {
+    const auto version = static_cast<std::uint16_t>(header.parameter >> 16);
+    if (!IsOurName(name) || version < kVersion) return Refuse(guest, Fatal::kInvalidInitialization);
+    if (sessions_.size() >= kMostClients) return Refuse(guest, Fatal::kTooManyClients);
+    Farewell(guest);
+    do {
+      ++last_id_;
+    } while (sessions_.contains(last_id_));
+    const auto session = std::make_shared<Session>(*this, last_id_, guest->channel);
+    sessions_.emplace(last_id_, session);
+    guest->channel->SetReceiver(session);
+    guest->channel->Send({Message::kInitializeResponse, 0, std::uint32_t{kVersion} << 16 | last_id_});
+  }
+
+  void AsyncInitialize(const GuestPointer& guest, const Header& header) {
+    const auto found = sessions_.find(static_cast<std::uint16_t>(header.parameter));
+    if (header.parameter > 0xFFFF || found == sessions_.end() || found->second->complete()) {
+      return Refuse(guest, Fatal::kInvalidInitialization);
+    }
+    Farewell(guest);
+    constexpr std::uint32_t kVendor = ('K' << 8) | 'V';
+    guest->channel->Send({Message::kAsyncInitializeResponse, 0, kVendor});
+    found->second->Attach(guest->channel);
+  }
+
+  void LocksChanged() {
+    ForEach([](const auto& session) { session->LocksChanged(); });
+  }
+
+  Services& services_;
+  Locks locks_;
+  tcp::acceptor acceptor_;
+  std::set<GuestPointer> guests_;
+  std::map<std::uint16_t, std::shared_ptr<Session>> sessions_;
+  std::uint16_t last_id_ = 0;
+};
+
+HislipServer::HislipServer(Services& services, const std::string& address, std::uint16_t port)
+    : impl_(std::make_unique<Impl>(services, address, port)) {}
+HislipServer::~HislipServer() = default;
+
+std::uint16_t HislipServer::port() const { return impl_->port(); }
+void HislipServer::ForEachLink(const std::function<void(const std::shared_ptr<Link>&)>& work) { impl_->ForEach(work); }
+void HislipServer::StatusChanged() { impl_->StatusChanged(); }
+void HislipServer::CloseClients() { impl_->CloseClients(); }
+void HislipServer::StopListening() { impl_->StopListening(); }
+
+}  // namespace siggen::link
