@@ -15,7 +15,7 @@ class Options : public BareSession {
     EXPECT_EQ(text, LastErrorText()) << options;
   }
   std::string Inherent(const std::string& name) { return session().InherentOptions().at(name); }
-  std::string Setup(const std::string& name) { return session().DriverSetupOptions().at(name); }
+  std::string SetupOption(const std::string& name) { return session().DriverSetupOptions().at(name); }
 };
 
 // Inherent options.
@@ -127,7 +127,7 @@ TEST_F(Options, DriverSetupStandsBehindTheInherentOptions) {
   EXPECT_TRUE(session().GetSimulate());
   EXPECT_EQ("Model:TD48142C", session().GetDriverSetup());
   EXPECT_EQ("TD48142C", session().GetInstrumentModel());
-  EXPECT_EQ("TD48142C", Setup("model"));
+  EXPECT_EQ("TD48142C", SetupOption("model"));
 }
 
 TEST_F(Options, TheKeywordComesInAnyCaseAndTheKeyWithEqualsOrColon) {
@@ -142,7 +142,7 @@ TEST_F(Options, AnInherentOptionBehindDriverSetupIsAKeyOfDriverSetup) {
   ExpectParsed("DriverSetup=Model:TD48142C, Simulate=1");
   EXPECT_FALSE(session().GetSimulate());
   EXPECT_TRUE(session().InherentOptions().empty());
-  EXPECT_EQ("1", Setup("Simulate"));
+  EXPECT_EQ("1", SetupOption("Simulate"));
 }
 
 TEST_F(Options, DriverSetupEndsWithItsLineAndWhatFollowsIsDropped) {
@@ -155,13 +155,13 @@ TEST_F(Options, DriverSetupEndsWithItsLineAndWhatFollowsIsDropped) {
 TEST_F(Options, TrailingBlanksStayInAValue) {
   ExpectParsed("DriverSetup=Model:X ,Foo=1");
   EXPECT_EQ("X ", session().GetInstrumentModel());
-  EXPECT_EQ("1", Setup("FOO"));
+  EXPECT_EQ("1", SetupOption("FOO"));
 }
 
 TEST_F(Options, KeysKeepTheirSpellingAndUnknownOnesAreNoFault) {
   ExpectParsed("DriverSetup=Foo_+1=a=b:c,Bar:2");
-  EXPECT_EQ("a=b:c", Setup("foo_+1"));
-  EXPECT_EQ("2", Setup("Bar"));
+  EXPECT_EQ("a=b:c", SetupOption("foo_+1"));
+  EXPECT_EQ("2", SetupOption("Bar"));
   EXPECT_EQ("Bar", session().DriverSetupOptions().begin()->first);
 }
 
