@@ -141,18 +141,22 @@ TEST_F(AttributeAccessDialogue, IdAndTypeAreRefusedBeforeTheHandleIsLookedAt) {
 }
 
 TEST_F(AttributeAccessDialogue, EveryInherentAttributeRefusesAHandleThatIsNotOpen) {
-  for (const ViAttr attribute :
-       {KVTD481X2C_ATTR_RANGE_CHECK, KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS, KVTD481X2C_ATTR_CACHE,
-        KVTD481X2C_ATTR_SIMULATE, KVTD481X2C_ATTR_RECORD_COERCIONS, KVTD481X2C_ATTR_INTERCHANGE_CHECK}) {
+  static constexpr ViAttr kFlags[] = {
+      KVTD481X2C_ATTR_RANGE_CHECK, KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS, KVTD481X2C_ATTR_CACHE,
+      KVTD481X2C_ATTR_SIMULATE,    KVTD481X2C_ATTR_RECORD_COERCIONS,        KVTD481X2C_ATTR_INTERCHANGE_CHECK};
+  for (const ViAttr attribute : kFlags) {
     ViBoolean value = 77;
     EXPECT_STATUS(kInvalidHandle, KVTD481X2C_GetAttributeViBoolean(0, nullptr, attribute, &value));
     EXPECT_STATUS(kInvalidHandle, KVTD481X2C_SetAttributeViBoolean(0, nullptr, attribute, VI_FALSE));
     EXPECT_EQ(77, value);
   }
-  for (const ViAttr attribute :
-       {KVTD481X2C_ATTR_DRIVER_SETUP, KVTD481X2C_ATTR_IO_RESOURCE_DESCRIPTOR, KVTD481X2C_ATTR_LOGICAL_NAME,
-        KVTD481X2C_ATTR_INSTRUMENT_MODEL, KVTD481X2C_ATTR_INSTRUMENT_MANUFACTURER,
-        KVTD481X2C_ATTR_INSTRUMENT_FIRMWARE_REVISION}) {
+  static constexpr ViAttr kTexts[] = {KVTD481X2C_ATTR_DRIVER_SETUP,
+                                      KVTD481X2C_ATTR_IO_RESOURCE_DESCRIPTOR,
+                                      KVTD481X2C_ATTR_LOGICAL_NAME,
+                                      KVTD481X2C_ATTR_INSTRUMENT_MODEL,
+                                      KVTD481X2C_ATTR_INSTRUMENT_MANUFACTURER,
+                                      KVTD481X2C_ATTR_INSTRUMENT_FIRMWARE_REVISION};
+  for (const ViAttr attribute : kTexts) {
     GuardedText<32> text;
     EXPECT_STATUS(kInvalidHandle, KVTD481X2C_GetAttributeViString(0, nullptr, attribute, text.size(), text.data()));
     EXPECT_TRUE(text.Untouched());
