@@ -13,9 +13,7 @@ bool Locks::Admits(Client client) const {
   return sharers_.empty() || Shares(client);
 }
 
-std::size_t Locks::holders() const {
-  return sharers_.size() + (exclusive_ != nullptr && !Shares(exclusive_) ? 1 : 0);
-}
+std::size_t Locks::holders() const { return sharers_.size() + (exclusive_ != nullptr && !Shares(exclusive_) ? 1 : 0); }
 
 // A shared lock cannot be had on top of the exclusive one, only the other way round.
 bool Locks::Holds(Client client, const std::string& key) const {
@@ -47,8 +45,8 @@ void Locks::Request(Client client, std::string key, std::chrono::milliseconds pa
       Waiting{++last_ticket_, client, std::move(key), std::move(answer), asio::steady_timer(io_, patience)});
   waiting.timer.async_wait([this, ticket = waiting.ticket](const asio::error_code& problem) {
     if (problem) return;
-    const auto late = std::find_if(waiting_.begin(), waiting_.end(),
-                                   [ticket](const Waiting& each) { return each.ticket == ticket; });
+    const auto late =
+        std::find_if(waiting_.begin(), waiting_.end(), [ticket](const Waiting& each) { return each.ticket == ticket; });
     if (late == waiting_.end()) return;
     const auto tell = std::move(late->answer);
     waiting_.erase(late);

@@ -22,8 +22,7 @@ class Locks {
   Locks(asio::io_context& io, std::function<void()> changed) : io_(io), changed_(std::move(changed)) {}
 
   // An empty key asks for the exclusive lock. `answer` is called at once, or when the lock is had, or the time is up.
-  void Request(Client client, std::string key, std::chrono::milliseconds patience,
-               std::function<void(Outcome)> answer);
+  void Request(Client client, std::string key, std::chrono::milliseconds patience, std::function<void(Outcome)> answer);
   Released Release(Client client);
   // The client is gone: its locks are free, its requests forgotten.
   void Forget(Client client);

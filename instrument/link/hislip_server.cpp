@@ -145,7 +145,7 @@ class HislipServer::Impl : public Hall {
     } while (sessions_.contains(last_id_));
     const auto session = std::make_shared<Session>(*this, last_id_, guest->channel);
     sessions_.emplace(last_id_, session);
-    guest->channel->SetReceiver(session);
+    session->Start();
     guest->channel->Send({Message::kInitializeResponse, 0, std::uint32_t{kVersion} << 16 | last_id_});
   }
 

@@ -38,6 +38,14 @@ Session::Session(Hall& hall, std::uint16_t id, std::shared_ptr<Channel> sync)
   reasons_ = static_cast<std::uint8_t>(status.Byte(false) & status.service_enable & ~kRequestService);
 }
 
+void Session::Start() {
+  sync_->SetReceiver(shared_from_this());
+  timer_.async_wait([weak = weak_from_this()](const asio::error_code& problem) {
+    const auto self = weak.lock();
+    if (self && !problem && !self->complete()) self->Close();
+  });
+}
+
 void Session::Attach(std::shared_ptr<Channel> async) {
   async_ = std::move(async);
   timer_.cancel();
@@ -45,15 +53,8 @@ void Session::Attach(std::shared_ptr<Channel> async) {
 }
 
 bool Session::Ready(Channel& from) {
-  if (&from != sync_.get() || clearing_) return true;
-  if (!complete()) {
-    timer_.async_wait([weak = weak_from_this()](const asio::error_code& problem) {
-      const auto self = weak.lock();
-      if (self && !problem && !self->complete()) self->Close();
-    });
-    return true;
-  }
-  return hall_.locks().Admits(this) && !sending_ && !exchange_.waiting();
+  if (&from != sync_.get() || clearing_ || !complete()) return true;
+  return hall_.locks().Admits(this) && !busy() && !exchange_.waiting();
 }
 
 // May this message come, at this place and in this size?
@@ -89,7 +90,7 @@ Payload Session::Begins(Channel& from, const Header& header) {
     if (header.message == Message::kInitialize || header.message == Message::kAsyncInitialize) {
       Fail(Fatal::kInvalidInitialization);
     } else if (header.message == Message::kAsyncLock || header.message == Message::kAsyncRemoteLocalControl) {
-      from.SendError(on_sync ? Problem::kUnknownMessage
+      from.SendError(on_sync                        ? Problem::kUnknownMessage
                      : header.length > kLongestText ? Problem::kTooLarge
                                                     : Problem::kUnknownControl);
     } else if (on_sync && (header.message == Message::kData || header.message == Message::kDataEnd)) {
@@ -99,7 +100,7 @@ Payload Session::Begins(Channel& from, const Header& header) {
     }
     return Payload::kDrop;
   }
-  if (!on_sync) return Payload::kCollect;
+  if (!on_sync) return header.length <= kLongestText ? Payload::kCollect : Payload::kDrop;
   if (!complete() && header.message != Message::kFatalError) {
     Fail(Fatal::kChannelsIncomplete);
     return Payload::kDrop;
@@ -144,7 +145,8 @@ void Session::EndsAsynchronous(const Header& header, const std::string& text) {
     case Message::kAsyncLock:
       return Lock(header, text);
     case Message::kAsyncLockInfo:
-      return async_->Send({Message::kAsyncLockInfoResponse, hall_.locks().exclusive() ? std::uint8_t{1} : std::uint8_t{0},
+      return async_->Send({Message::kAsyncLockInfoResponse,
+                           hall_.locks().exclusive() ? std::uint8_t{1} : std::uint8_t{0},
                            static_cast<std::uint32_t>(hall_.locks().holders())});
     case Message::kAsyncRemoteLocalControl:
       return async_->Send({Message::kAsyncRemoteLocalResponse});
@@ -184,12 +186,15 @@ void Session::Interrupted(std::uint32_t by) {
 
 void Session::Pump() {
   const auto self = shared_from_this();
-  while (!sending_ && !gone_ && !clearing_) {
+  while (!busy()) {
     if (owes_answer()) {
       // More input before the answer is out: whether it interrupts, its header will tell.
       if (!overlap_ && sync_->InputQueued()) break;
-      if (answer_.empty() && !BeginAnswer()) break;
-      if (!sending_) SendPart();
+      if (answer_.empty()) {
+        BeginAnswer();
+      } else {
+        SendPart();
+      }
       continue;
     }
     exchange_.Run();
@@ -203,39 +208,38 @@ void Session::Pump() {
   if (!gone_) sync_->Resume();
 }
 
-// False when there will be none.
-bool Session::BeginAnswer() {
+void Session::BeginAnswer() {
   std::vector<scpi::Bytes> answer = exchange_.TakeAnswer();
   const auto fault = services_.faults().Next();
   std::uint64_t whole = 0;
   for (const scpi::Bytes& part : answer) whole += part.view.size();
   if (fault) answer = Distort(fault->kind, std::move(answer));
   answer_.assign(answer.begin(), answer.end());
-  if (!fault) return true;
+  if (!fault) return;
   switch (fault->kind) {
     case Fault::Kind::kDrop:
-      Close();
-      return false;
+      return Close();
     case Fault::Kind::kReset:
       sync_->Reset();
       async_->Reset();
-      Close();
-      return false;
+      return Close();
     case Fault::Kind::kCut:
-      SendBroken(whole);
-      return false;
+      return SendBroken(whole);
+    case Fault::Kind::kDelay:
+      return Delay(fault->delay);
     default:
-      break;
+      return;
   }
-  if (fault->delay.count() == 0) return true;
-  sending_ = true;
-  timer_.expires_after(fault->delay);
+}
+
+void Session::Delay(std::chrono::milliseconds delay) {
+  delayed_ = true;
+  timer_.expires_after(delay);
   timer_.async_wait([self = shared_from_this()](const asio::error_code& problem) {
-    if (problem || self->gone_) return;
-    self->sending_ = false;
-    if (!self->answer_.empty()) self->SendPart();
+    if (problem || self->gone_ || !self->delayed_) return;
+    self->delayed_ = false;
+    self->Pump();
   });
-  return true;
 }
 
 void Session::SendPart() {
@@ -272,6 +276,7 @@ void Session::SendBroken(std::uint64_t announced) {
 // A part on its way is finished, so that the client finds the next header.
 void Session::DeviceClear() {
   clearing_ = true;
+  delayed_ = false;
   timer_.cancel();
   exchange_.Clear();
   framer_.Clear();
@@ -286,7 +291,6 @@ void Session::DeviceClear() {
 void Session::DeviceCleared(std::uint8_t features) {
   if (!clearing_) return sync_->SendError(Problem::kUnidentified);
   clearing_ = false;
-  sending_ = false;
   overlap_ = (features & kOverlap) != 0;
   last_id_ = answer_id_ = sent_id_ = kNoId;
   sync_->Send({Message::kDeviceClearAcknowledge, overlap_ ? kOverlap : std::uint8_t{0}});

@@ -32,6 +32,7 @@ class Session : public Link, public Receiver, public std::enable_shared_from_thi
   Session(Hall& hall, std::uint16_t id, std::shared_ptr<Channel> sync);
 
   std::uint16_t id() const { return id_; }
+  void Start();
   // The second connection is there: the link is usable.
   void Attach(std::shared_ptr<Channel> async);
   bool complete() const { return async_ != nullptr; }
@@ -58,8 +59,9 @@ class Session : public Link, public Receiver, public std::enable_shared_from_thi
 
   void Arrived(const Header& header);
   void Interrupted(std::uint32_t by);
+  bool busy() const { return sending_ || delayed_ || clearing_ || gone_; }
   bool owes_answer() const { return exchange_.answer_ready() || !answer_.empty(); }
-  bool BeginAnswer();
+  void BeginAnswer();
   void SendPart();
   void SendBroken(std::uint64_t announced);
 
@@ -69,6 +71,7 @@ class Session : public Link, public Receiver, public std::enable_shared_from_thi
   void Lock(const Header& header, const std::string& key);
   void ReleaseLock();
   void Fail(Fatal fatal);
+  void Delay(std::chrono::milliseconds delay);
   bool Forget();
 
   Hall& hall_;
@@ -83,20 +86,21 @@ class Session : public Link, public Receiver, public std::enable_shared_from_thi
   scpi::Session exchange_;
   std::deque<scpi::Bytes> answer_;  // what is still to be sent of the answer under way
   bool sending_ = false;            // a part of it is on its way
+  bool delayed_ = false;            // by a fault
   std::uint64_t most_payload_ = kLargestMessage - kHeaderSize;
 
   bool overlap_ = false;
-  bool clearing_ = false;  // between AsyncDeviceClear and DeviceClearComplete
-  std::uint32_t last_id_ = kNoId;      // of the client's messages
-  std::uint32_t answer_id_ = kNoId;    // of the message whose end brought the answer about
-  std::uint32_t sent_id_ = kNoId;      // of our messages in overlap mode
+  bool clearing_ = false;            // between AsyncDeviceClear and DeviceClearComplete
+  std::uint32_t last_id_ = kNoId;    // of the client's messages
+  std::uint32_t answer_id_ = kNoId;  // of the message whose end brought the answer about
+  std::uint32_t sent_id_ = kNoId;    // of our messages in overlap mode
   bool rmt_expected_ = false;
   bool message_available_ = false;
   std::optional<std::uint32_t> release_after_;  // the lock is released when that message is done
 
-  std::uint8_t reasons_ = 0;        // for service, as last seen
-  bool requests_service_ = false;   // RQS, until the status byte is asked for
-  bool service_told_ = false;       // and no further AsyncServiceRequest before that
+  std::uint8_t reasons_ = 0;       // for service, as last seen
+  bool requests_service_ = false;  // RQS, until the status byte is asked for
+  bool service_told_ = false;      // and no further AsyncServiceRequest before that
 };
 
 }  // namespace siggen::link::hislip
