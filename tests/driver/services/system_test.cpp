@@ -123,17 +123,28 @@ TEST_P(ClockDialogue, AsksForTheStatusBehindARead) {
   EXPECT_EQ(kInstrumentErrorText, LastErrorText());
 }
 
-TEST_P(ClockDialogue, FewerThanThreeNumbersComeBackAsVisaTellsItAndTheNextQueryIsInStep) {
+TEST_P(ClockDialogue, WhatAreNoNumbersComesBackAsVisaTellsItAndTheNextQueryIsInStep) {
   QueryInstrumentStatus(true);
-  for (const char* answer : {"2026", "2026,11", "2026 11 21", "now", "2026,x,21"}) {
+  for (const char* answer : {"now", "2026 11 21", "2026,x,21", "2026;11;21"}) {
     Asked(clock.query, answer);
     EXPECT_STATUS(kVisaBadFormat, clock.get(vi, &first, &second, &third)) << answer;
+    EXPECT_EQ(77, third);
     EXPECT_EQ(kNothingRecorded, LastError());
   }
   Asked(clock.query, "1,2,3");
   Asked("*ESR?", "0");
   EXPECT_STATUS(VI_SUCCESS, clock.get(vi, &first, &second, &third));
   EXPECT_EQ(3, third);
+}
+
+TEST_P(ClockDialogue, FewerThanThreeNumbersAreAFailureAndNotHalfASuccess) {
+  for (const char* answer : {"2026", "2026,11", "2026,11,", ""}) {
+    Asked(clock.query, answer);
+    const ViStatus status = clock.get(vi, &first, &second, &third);
+    EXPECT_GT(VI_SUCCESS, status) << answer;
+    EXPECT_EQ(77, third);
+    EXPECT_EQ(kNothingRecorded, LastError());
+  }
 }
 
 TEST_P(ClockDialogue, RefusesTheFirstNullParameterByItsName) {
