@@ -1,6 +1,7 @@
 // Amplitude modulation: the instrument's own attributes both ways, and the class's source, scaling and depth, which
 // keep nothing themselves and go by what the instrument says.
 
+#include <initializer_list>
 #include <vector>
 
 #include "AttributeCases.h"
@@ -405,11 +406,12 @@ TEST_F(AmDialogue, AMeasurementIntoNothingIsRefusedUnderItsOwnName) {
 
 TEST_F(AmDialogue, ReadsIntoNothingAreRefusedBeforeAnythingIsAsked) {
   const RecordedError refused = NullPointerError("KVTD481X2C_GetAttributeViReal64", "AttributeValue");
-  for (const ViAttr id : {KVTD481X2C_ATTR_AM_DEPTH, KVTD481X2C_ATTR_AM_NOMINAL_VOLTAGE}) {
+  for (const ViAttr id : std::initializer_list<ViAttr>{KVTD481X2C_ATTR_AM_DEPTH, KVTD481X2C_ATTR_AM_NOMINAL_VOLTAGE}) {
     EXPECT_STATUS(kNullPointer, GetReal(id, nullptr));
     EXPECT_EQ(refused, LastError());
   }
-  for (const ViAttr id : {KVTD481X2C_ATTR_AM_SCALING, KVTD481X2C_ATTR_AM_EXTERNAL_COUPLING}) {
+  for (const ViAttr id :
+       std::initializer_list<ViAttr>{KVTD481X2C_ATTR_AM_SCALING, KVTD481X2C_ATTR_AM_EXTERNAL_COUPLING}) {
     EXPECT_STATUS(kNullPointer, GetInt32(id, nullptr));
     EXPECT_EQ(NullPointerError("KVTD481X2C_GetAttributeViInt32", "AttributeValue"), LastError());
   }

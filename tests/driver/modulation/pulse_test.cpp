@@ -1,6 +1,7 @@
 // Pulse modulation and the pulse generator: the instrument's own attributes both ways, and the class's single pulse,
 // double pulse, gating and trigger, which are mapped onto the first two slots of the train and the trigger type.
 
+#include <initializer_list>
 #include <limits>
 #include <vector>
 
@@ -393,12 +394,14 @@ TEST_F(PulseDialogue, ARefusedSlopeStopsTheTriggerBeforeItsDelay) {
 }
 
 TEST_F(PulseDialogue, ReadsIntoNothingAreRefusedBeforeAnythingIsAsked) {
-  for (const ViAttr id : {KVTD481X2C_ATTR_PULSE_GATING_ENABLED, KVTD481X2C_ATTR_PULSE_DOUBLE_ENABLED,
-                          KVTD481X2C_ATTR_PULSE_OUTPUT_ENABLED}) {
+  for (const ViAttr id :
+       std::initializer_list<ViAttr>{KVTD481X2C_ATTR_PULSE_GATING_ENABLED, KVTD481X2C_ATTR_PULSE_DOUBLE_ENABLED,
+                                     KVTD481X2C_ATTR_PULSE_OUTPUT_ENABLED}) {
     EXPECT_STATUS(kNullPointer, GetBoolean(id, nullptr));
     EXPECT_EQ(NullPointerError("KVTD481X2C_GetAttributeViBoolean", "AttributeValue"), LastError());
   }
-  for (const ViAttr id : {KVTD481X2C_ATTR_PULSE_MODULATION_SOURCE, KVTD481X2C_ATTR_PULSE_TRIGGER_SOURCE}) {
+  for (const ViAttr id :
+       std::initializer_list<ViAttr>{KVTD481X2C_ATTR_PULSE_MODULATION_SOURCE, KVTD481X2C_ATTR_PULSE_TRIGGER_SOURCE}) {
     EXPECT_STATUS(kNullPointer, GetInt32(id, nullptr));
     EXPECT_EQ(NullPointerError("KVTD481X2C_GetAttributeViInt32", "AttributeValue"), LastError());
   }
@@ -416,12 +419,14 @@ TEST_F(PulseDialogue, OperationsRefuseAHandleThatIsNotOpen) {
     EXPECT_STATUS(kInvalidHandle, KVTD481X2C_ConfigurePulseModulationExternalPolarity(handle, 0));
     EXPECT_STATUS(kInvalidHandle, KVTD481X2C_ConfigurePulseModulationSource(handle, 0));
     EXPECT_STATUS(kInvalidHandle, KVTD481X2C_ConfigurePulseOutput(handle, 0, VI_TRUE));
-    for (const ViAttr id : {KVTD481X2C_ATTR_PULSE_GATING_ENABLED, KVTD481X2C_ATTR_PULSE_DOUBLE_ENABLED,
-                            KVTD481X2C_ATTR_PULSE_OUTPUT_ENABLED}) {
+    for (const ViAttr id :
+         std::initializer_list<ViAttr>{KVTD481X2C_ATTR_PULSE_GATING_ENABLED, KVTD481X2C_ATTR_PULSE_DOUBLE_ENABLED,
+                                       KVTD481X2C_ATTR_PULSE_OUTPUT_ENABLED}) {
       EXPECT_STATUS(kInvalidHandle, KVTD481X2C_GetAttributeViBoolean(handle, nullptr, id, &on));
       EXPECT_STATUS(kInvalidHandle, KVTD481X2C_SetAttributeViBoolean(handle, nullptr, id, VI_TRUE));
     }
-    for (const ViAttr id : {KVTD481X2C_ATTR_PULSE_MODULATION_SOURCE, KVTD481X2C_ATTR_PULSE_TRIGGER_SOURCE}) {
+    for (const ViAttr id :
+         std::initializer_list<ViAttr>{KVTD481X2C_ATTR_PULSE_MODULATION_SOURCE, KVTD481X2C_ATTR_PULSE_TRIGGER_SOURCE}) {
       EXPECT_STATUS(kInvalidHandle, KVTD481X2C_GetAttributeViInt32(handle, nullptr, id, &number));
       EXPECT_STATUS(kInvalidHandle, KVTD481X2C_SetAttributeViInt32(handle, nullptr, id, 1));
     }
