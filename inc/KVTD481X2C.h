@@ -7392,7 +7392,8 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ResetInterchangeCheck(ViSession Vi);
 /**
  * Gives the session's lock back.
  *
- * With a pointer, VI_FALSE on entry does nothing, and VI_TRUE gives the lock back and becomes VI_FALSE.
+ * With a pointer, VI_FALSE on entry does nothing, and VI_TRUE gives the lock back and becomes VI_FALSE. A caller that
+ * does not hold the lock must not give it back: the process ends with an assertion.
  *
  * @param Vi             Handle from KVTD481X2C_InitWithOptions.
  * @param CallerHasLock  Whether the caller holds the lock. May be null. After a failure: unchanged.

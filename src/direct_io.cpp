@@ -1,5 +1,7 @@
 // The caller's own exchanges on the session's link, and the link's handle and timeout. Refused in simulation.
 
+#include <cstdint>
+
 #include "KVTD481X2C.h"
 #include "TD481X2CDriverSession.h"
 #include "handlers.h"
@@ -11,6 +13,22 @@ ViStatus RefuseSimulated(ViSession vi) {
   const ViStatus status = tvr::GetAttribute<ViBoolean>(vi, nullptr, KVTD481X2C_ATTR_SIMULATE, &simulate);
   if (status < 0 || simulate == VI_FALSE) return status;
   return tvr::RaiseErrorText(vi, tvr::error::kIoGeneral, "Direct I/O operations are not available in simulation mode.");
+}
+
+// Throws away the rest of a response, so that it does not answer the next query. An instrument that talks on without an
+// end is given the I/O timeout as a whole, not anew for each piece.
+ViStatus Drain(ViSession instrument) {
+  ViUInt32 timeout = 0;
+  ViStatus status = viGetAttribute(instrument, VI_ATTR_TMO_VALUE, &timeout);
+  if (status < 0) return status;
+  const std::uint64_t start = tvr::GetTickCount64();
+  do {
+    ViByte rest[4096];
+    ViUInt32 read = 0;
+    status = viRead(instrument, rest, sizeof rest, &read);
+    if (status != VI_SUCCESS_MAX_CNT) return status;
+  } while (timeout == VI_TMO_INFINITE || tvr::GetTickCount64() - start <= timeout);
+  return VI_ERROR_TMO;
 }
 
 }  // namespace
@@ -47,14 +65,9 @@ ViStatus KVTD481X2C_viRead(ViSession Vi, ViInt64 Count, ViByte Buffer[], ViInt64
 
   const ViSession instrument = tvr::InstrumentOf(Vi);
   ViUInt32 read = 0;
-  ViStatus status = viRead(instrument, Buffer, static_cast<ViUInt32>(Count), &read);
+  const ViStatus status = viRead(instrument, Buffer, static_cast<ViUInt32>(Count), &read);
   if (ReturnCount != nullptr) *ReturnCount = read;
-  // The rest of a longer response is thrown away, so that it does not answer the next query.
-  while (status == VI_SUCCESS_MAX_CNT) {
-    ViByte rest[4096];
-    status = viRead(instrument, rest, sizeof rest, &read);
-  }
-  return status;
+  return status == VI_SUCCESS_MAX_CNT ? Drain(instrument) : status;
 }
 
 ViStatus KVTD481X2C_viWrite(ViSession Vi, ViInt64 Count, const ViByte Buffer[], ViInt64* ReturnCount) {

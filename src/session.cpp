@@ -69,8 +69,13 @@ ViStatus KVTD481X2C_InitWithOptions(ViRsrc ResourceName, ViBoolean IdQuery, ViBo
 }
 
 ViStatus KVTD481X2C_close(ViSession Vi) {
-  tvr::DriverSession* const pSession = tvr::FindSession(Vi);
-  if (pSession == nullptr) return tvr::error::kInvalidSessionHandle;
+  ViAddr data = nullptr;
+  const ViStatus status = IviSession_GetDataPtr(Vi, &data);
+  if (status < 0) return tvr::error::kInvalidSessionHandle;
+  auto* const pSession = static_cast<tvr::DriverSession*>(data);
+  assert(pSession != nullptr && "Failed to retrieve driver session.");
+  if (pSession == nullptr) return status;
+
   pSession->CloseSession();
   delete pSession;
   return IviSession_Dispose(Vi);

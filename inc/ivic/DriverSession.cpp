@@ -95,23 +95,28 @@ ViStatus DriverSession::BringUp(const std::string& resource_name, bool id_query,
     if (status < 0) return status;
   }
 
-  if (const ViStatus status = OpenIo(); status < 0) {
-    CloseVisa();  // the resource manager would stay open with nobody left to close it
-    return status;
-  }
+  // What a failure or an exception leaves open would have nobody to close it.
+  struct OpenedVisa {
+    ~OpenedVisa() {
+      if (session != nullptr) session->CloseVisa();
+    }
+    DriverSession* session;
+  } opened{this};
 
-  ViStatus status = VI_SUCCESS;
+  ViStatus status = OpenIo();
+  if (status < 0) return status;
   if (GetQueryInstrStatus()) status = ClearInstrumentStatus();
   if (status >= 0) {
     status = QueryIdentity(instrument_manufacturer_, instrument_model_, instrument_serial_number_,
                            instrument_firmware_revision_);
-    if (status >= 0) {
-      if (!id_query_ || IsSupportedModel()) return status;
-      // Kept on purpose: the code's text has no place for the model's name, so callers see the bare sentence.
-      const std::string text = "Unrecognized model: " + GetInstrumentModel();
-      status = ReportError(error::kIdQueryFailed, text.c_str());
-    }
   }
+  if (status >= 0 && id_query_ && !IsSupportedModel()) {
+    // Kept on purpose: the code's text has no place for the model's name, so callers see the bare sentence.
+    const std::string text = "Unrecognized model: " + GetInstrumentModel();
+    status = ReportError(error::kIdQueryFailed, text.c_str());
+  }
+  opened.session = nullptr;
+  if (status >= 0) return status;
 
   const ViStatus statusClose = CloseIo();
   assert(statusClose >= 0);

@@ -13,13 +13,16 @@ namespace tvr {
 
 ViStatus FormatError(ViSession vi, ViStatus code, const char* text, va_list arguments) {
   const char* message = LookupErrorText(code);
-  std::string format = message == nullptr ? "" : message;
-  if (text != nullptr && *text != '\0') format.append("  ").append(text);
+  const bool further = text != nullptr && *text != '\0';
+  // On the stack: this must work when memory has run out. Twice a message's size holds every text of the driver.
+  ViChar format[2 * kMessageSize] = "";
+  std::snprintf(format, sizeof format, "%s%s%s", message == nullptr ? "" : message, further ? "  " : "",
+                further ? text : "");
 
   ViChar buffer[kMessageSize] = "";
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wformat-nonliteral"
-  std::vsnprintf(buffer, sizeof buffer, format.c_str(), arguments);
+  std::vsnprintf(buffer, sizeof buffer, format, arguments);
 #pragma GCC diagnostic pop
 
   const ViStatus status = IviSession_SetError(vi, code, buffer);
