@@ -1,78 +1,59 @@
 #include "host_lookup.h"
 
-#include <ctime>
-#include <list>
+#include <chrono>
+#include <condition_variable>
 #include <mutex>
+#include <thread>
 
 namespace tvr::visa {
 namespace {
 
-// A question to the name service cannot be withdrawn once it is being asked. So it owns its memory, and a caller whose
-// time is up leaves it in a list that later lookups clear of what has been answered since.
-struct Question {
-  std::string host;
-  std::string port;
-  addrinfo hints{};
-  gaicb control{};
-
-  Question(std::string host_name, ViUInt16 port_number)
-      : host(std::move(host_name)), port(std::to_string(port_number)) {
-    hints.ai_socktype = SOCK_STREAM;
-    hints.ai_flags = AI_NUMERICSERV;
-    control.ar_name = host.c_str();
-    control.ar_service = port.c_str();
-    control.ar_request = &hints;
-  }
-  Question(const Question&) = delete;
-  Question& operator=(const Question&) = delete;
-  ~Question() {
-    if (control.ar_result != nullptr) ::freeaddrinfo(control.ar_result);
-  }
-  bool Open() { return ::gai_error(&control) == EAI_INPROGRESS; }
-};
-
-using Questions = std::list<std::unique_ptr<Question>>;
-
-void LeaveBehind(std::unique_ptr<Question> question) {
-  static std::mutex guard;
-  // Never destroyed: the name service may still write into its members when the process ends.
-  static auto* const unanswered = new Questions;
-  const std::lock_guard lock(guard);
-  unanswered->remove_if([](const std::unique_ptr<Question>& left) { return !left->Open(); });
-  unanswered->push_back(std::move(question));
-}
-
-bool InDigits(const std::string& host, ViUInt16 port, HostAddresses& found) {
+int Ask(const std::string& host, ViUInt16 port, int flags, HostAddresses& found) {
   addrinfo hints{};
   hints.ai_socktype = SOCK_STREAM;
-  hints.ai_flags = AI_NUMERICHOST | AI_NUMERICSERV;
+  hints.ai_flags = flags | AI_NUMERICSERV;
   addrinfo* list = nullptr;
-  if (::getaddrinfo(host.c_str(), std::to_string(port).c_str(), &hints, &list) != 0) return false;
-  found.Take(list);
-  return true;
+  const int error = ::getaddrinfo(host.c_str(), std::to_string(port).c_str(), &hints, &list);
+  if (error == 0) found.Take(list);
+  return error;
 }
+
+// A question to the name service can take half a minute and cannot be withdrawn. So it is asked by a thread of its own,
+// and both sides own what they share: a caller whose time is up just walks away. The library is never unloaded
+// (CMakeLists.txt), so the thread does not lose its code.
+struct Question {
+  std::mutex guard;
+  std::condition_variable answered;
+  bool done = false;
+  int error = 0;
+  HostAddresses found;
+};
 
 }  // namespace
 
 ViStatus LookUpHost(const std::string& host, ViUInt16 port, Deadline& deadline, HostAddresses& found) {
-  if (InDigits(host, port, found)) return VI_SUCCESS;
+  if (Ask(host, port, AI_NUMERICHOST, found) == 0) return VI_SUCCESS;
 
-  auto question = std::make_unique<Question>(host, port);
-  gaicb* asked[] = {&question->control};
-  if (::getaddrinfo_a(GAI_NOWAIT, asked, 1, nullptr) != 0) return VI_ERROR_ALLOC;
-  const gaicb* awaited[] = {&question->control};
-  while (question->Open()) {
-    const int remaining = deadline.Remaining();
-    const timespec limit{remaining / 1000, (remaining % 1000) * 1000000L};
-    const int answer = ::gai_suspend(awaited, 1, remaining < 0 ? nullptr : &limit);
-    if (answer == EAI_AGAIN && question->Open()) {
-      if (::gai_cancel(&question->control) != EAI_CANCELED) LeaveBehind(std::move(question));
-      return VI_ERROR_TMO;
-    }
+  const auto question = std::make_shared<Question>();
+  std::thread([question, host, port] {
+    HostAddresses addresses;
+    const int error = Ask(host, port, 0, addresses);
+    const std::lock_guard lock(question->guard);
+    question->error = error;
+    question->found = std::move(addresses);
+    question->done = true;
+    question->answered.notify_one();
+  }).detach();
+
+  std::unique_lock lock(question->guard);
+  const auto done = [&] { return question->done; };
+  if (deadline.Infinite()) {
+    question->answered.wait(lock, done);
+  } else if (!question->answered.wait_for(lock, std::chrono::milliseconds(deadline.Remaining()), done)) {
+    return VI_ERROR_TMO;
   }
-  if (::gai_error(&question->control) != 0) return VI_ERROR_RSRC_NFOUND;
-  found.Take(question->control.ar_result);
-  question->control.ar_result = nullptr;
+  if (question->error != 0) return VI_ERROR_RSRC_NFOUND;
+  found = std::move(question->found);
   return VI_SUCCESS;
 }
 

@@ -38,8 +38,7 @@ ViStatus ResourceLock::WaitUntil(Free free, const Holder& holder, ViUInt32 timeo
   if (timeout_ms == VI_TMO_IMMEDIATE) return VI_ERROR_RSRC_LOCKED;
   if (timeout_ms == VI_TMO_INFINITE) {
     changed_.wait(lock, ready);
-  } else if (!changed_.wait_until(lock, std::chrono::system_clock::now() + std::chrono::milliseconds(timeout_ms),
-                                  ready)) {
+  } else if (!changed_.wait_for(lock, std::chrono::milliseconds(timeout_ms), ready)) {
     return VI_ERROR_TMO;
   }
   return holder.withdrawn_ ? VI_ERROR_INV_OBJECT : VI_SUCCESS;

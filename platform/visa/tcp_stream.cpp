@@ -89,7 +89,8 @@ ViStatus TcpStream::Connect(const std::string& host, ViUInt16 port, Deadline& de
     if (error == EINPROGRESS || error == EINTR) {
       // A first address that swallows everything must leave time for the second.
       const int remaining = deadline.Remaining();
-      Deadline share(remaining < 0 ? VI_TMO_INFINITE : static_cast<ViUInt32>(remaining / addresses_left));
+      const int part = remaining / addresses_left;
+      Deadline share(remaining < 0 ? ViUInt32{VI_TMO_INFINITE} : static_cast<ViUInt32>(part));
       const ViStatus waited = Wait(POLLOUT, share);
       socklen_t size = sizeof error;
       if (waited == VI_ERROR_TMO) {

@@ -129,7 +129,6 @@ TEST(RealText, EqualsTheCLibraryWithFifteenSignificantDigits) {
 
 TEST(RealText, EqualsTheCLibraryForEveryCodeFlagWidthAndPrecision) {
   std::mt19937_64 random(4);
-  WriteDirective plain;
   for (int i = 0; i < 60000; ++i) {
     const double value = i % 3 == 0 ? std::bit_cast<double>(random())
                                     : std::ldexp(static_cast<double>(static_cast<std::int16_t>(random())),
