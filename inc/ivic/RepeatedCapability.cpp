@@ -104,10 +104,13 @@ ViStatus RepeatedCapability::ExpandSelector(ViSession vi, ViConstString selector
 
   const std::vector<std::string> levels = SplitString(text, ':', true);
   std::vector<std::string> names;
+  bool empty_level = false;  // a bracket without its fellow can leave one; nothing can be joined with it
   for (const std::string& level : levels) {
     names.clear();
     if (const ViStatus status = ExpandLevel(vi, level, names); status < 0) return status;
+    empty_level = empty_level || names.empty();
   }
+  if (empty_level) return VI_SUCCESS;
   if (levels.size() > 1) return RaiseError(vi, error::kInvalidNumberOfLevelsInSelector, name_.c_str());
 
   for (const std::string& name : names) {
@@ -175,9 +178,8 @@ ViStatus RepeatedCapability::ExpandRange(ViSession vi, const std::string& token,
     return RaiseErrorText(vi, error::kInvalidRangeInSelector, why, token.c_str(), name_.c_str());
   };
   std::smatch match;
-  if (token.size() > kLongestRange || !std::regex_match(token, match, RangePattern())) {
-    return refuse("The base names do not match.");
-  }
+  if (token.size() > kLongestRange) return refuse("The range is too long.");
+  if (!std::regex_match(token, match, RangePattern())) return refuse("The base names do not match.");
   ViInt32 start = 0;
   ViInt32 end = 0;
   if (!ParseIndex(match[2].str(), start) || !ParseIndex(match[3].str(), end)) {
