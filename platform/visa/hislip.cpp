@@ -182,7 +182,7 @@ ViStatus HislipTransport::RemoteLocal(ViUInt16 mode, Deadline& deadline) {
 ViStatus HislipTransport::LockDevice(const std::string& key, ViUInt32 timeout_ms) {
   if (key.size() > kLongestKey) return VI_ERROR_INV_ACCESS_KEY;
   // The device does the waiting; its answer needs a moment more.
-  constexpr ViUInt32 kOnTheWay = 80;
+  constexpr ViUInt32 kOnTheWay = 50;
   Deadline deadline(timeout_ms > VI_TMO_INFINITE - kOnTheWay ? VI_TMO_INFINITE : timeout_ms + kOnTheWay);
   const iovec piece = PieceOf(key.data(), key.size());
   AsyncChannel::Answer answer;

@@ -30,6 +30,8 @@ class HislipPeer {
   void Accept(Side side);
 
   void Says(Side side, std::string_view bytes);
+  // False when the client has gone.
+  bool Offers(Side side, std::string_view bytes) { return kvtd::test::SendAll(sockets_[side], bytes); }
   // Exactly as many bytes as there are expected.
   void Hears(Side side, std::string_view bytes);
   // The next bytes, whatever they are.
