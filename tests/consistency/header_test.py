@@ -19,6 +19,14 @@ class PublicHeader(unittest.TestCase):
             self.assertEqual(printed.read_text(encoding="utf-8"), project.text("inc/KVTD481X2C.h"),
                              "run: cmake --build --preset dev --target header")
 
+    def test_the_committed_reference_is_what_the_rows_print(self):
+        with tempfile.TemporaryDirectory() as folder:
+            project.catalogue("reference", folder)
+            printed = {page.name: page.read_text(encoding="utf-8") for page in pathlib.Path(folder).iterdir()}
+            committed = {page.name: page.read_text(encoding="utf-8")
+                         for page in (project.SOURCE / "docs" / "reference").iterdir()}
+            self.assertEqual(printed, committed, "run: cmake --build --preset dev --target reference")
+
     def check(self, compilers, language, standards, flags):
         for compiler in compilers:
             for standard in standards:
