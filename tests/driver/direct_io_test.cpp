@@ -2,6 +2,7 @@
 
 #include <visa.h>
 
+#include <thread>
 #include <vector>
 
 #include "DriverDialogue.h"
@@ -88,6 +89,18 @@ TEST_F(DirectIo, ARestThatNeverEndsIsGivenUpAtTheTimeout) {
   EXPECT_STATUS(kVisaTimeout, Read(buffer, 2, &read));
   EXPECT_EQ(2, read);
   EXPECT_EQ("no~", std::string(buffer.data(), 3));
+}
+
+TEST_F(DirectIo, CountsAreCutToThirtyTwoBits) {
+  Sent("*OPT?\n");
+  Answer("none\n");
+  ViInt64 count = 77;
+  EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_viWrite(vi, 0x100000006, Bytes("*OPT?\nnever sent"), &count));
+  EXPECT_EQ(6, count);
+  GuardedText<64> buffer;
+  EXPECT_STATUS(VI_SUCCESS_TERM_CHAR, Read(buffer, 0x100000004, &count));
+  EXPECT_EQ(4, count);
+  EXPECT_EQ("none~", std::string(buffer.data(), 5));
 }
 
 TEST_F(DirectIo, TheReturnCountsMayBeNull) {
@@ -252,6 +265,56 @@ TEST_F(SimulatedDirectIo, EveryDirectOperationIsRefusedAndLeavesItsOutputsAlone)
   EXPECT_EQ(77U, io);
   EXPECT_EQ(77, timeout);
   EXPECT_TRUE(buffer.Untouched());
+}
+
+// Knows its name, and answers "*OPT?" with bytes that never stop and hold no line feed.
+class EndlessInstrument {
+ public:
+  ~EndlessInstrument() {
+    stop_.Ring();
+    thread_.join();
+  }
+  std::string ResourceName() const { return "TCPIP0::127.0.0.1::" + std::to_string(listener_.port()) + "::SOCKET"; }
+
+ private:
+  void Serve() {
+    if (!WaitReadable(listener_.descriptor(), &stop_, kPatience)) return;
+    const Descriptor client = listener_.Accept();
+    for (;;) {
+      const std::string line = ReceiveUntil(client, '\n');
+      if (line.empty()) return;
+      if (line == "*IDN?\n") SendAll(client, "Kelvora,TD48142C,SN4711,1.2.3\n", &stop_);
+      if (line == "*OPT?\n") Stream(client);
+    }
+  }
+  // Ends by itself after a while, so that a driver which reads on for ever fails its test and does not hang it.
+  void Stream(const Descriptor& client) {
+    const std::string piece(1000, 'x');
+    const Clock::time_point end = Clock::now() + kPatience;
+    while (Clock::now() < end && SendAll(client, piece, &stop_)) {
+    }
+  }
+
+  Listener listener_;
+  Alarm stop_;
+  std::thread thread_{[this] { Serve(); }};
+};
+
+TEST(EndlessResponse, IsGivenUpWhenTheTimeoutIsOver) {
+  EndlessInstrument instrument;
+  std::string resource = instrument.ResourceName();
+  ViSession vi = VI_NULL;
+  ASSERT_STATUS(VI_SUCCESS, KVTD481X2C_InitWithOptions(resource.data(), VI_FALSE, VI_FALSE, "", &vi));
+  EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_SetIOTimeout(vi, 100));
+  EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_viWrite(vi, 6, Bytes("*OPT?\n"), nullptr));
+  GuardedText<2> buffer;
+  ViInt64 read = 77;
+  const Clock::time_point start = Clock::now();
+  EXPECT_STATUS(kVisaTimeout, KVTD481X2C_viRead(vi, 2, reinterpret_cast<ViByte*>(buffer.data()), &read));
+  EXPECT_LT(Clock::now() - start, Milliseconds(1000));
+  EXPECT_EQ(2, read);
+  EXPECT_EQ("xx", std::string(buffer.data(), 2));
+  EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_close(vi));
 }
 
 TEST_F(DirectIo, ASessionThatWasSwitchedToSimulationRefusesThemToo) {
