@@ -225,6 +225,14 @@ TEST_F(SimulatedCache, AResetForgets) {
   EXPECT_EQ(0.0, Multiplier());
 }
 
+// Any simulation but 1 runs on without a link: the value goes nowhere and is remembered.
+TEST_F(SimulatedCache, AValueThatFoundNoLinkIsRememberedAllTheSame) {
+  EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_SetAttributeViBoolean(vi, nullptr, KVTD481X2C_ATTR_SIMULATE, 2));
+  EXPECT_STATUS(kVisaNoSession, KVTD481X2C_SetFrequencyMultiplier(vi, 7.0));
+  SwitchToSimulation(true);
+  EXPECT_EQ(7.0, Multiplier());
+}
+
 TEST_F(SimulatedCache, SessionsRememberApart) {
   EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_SetFrequencyMultiplier(vi, 2.5));
   const ViSession first = vi;
