@@ -120,6 +120,13 @@ TEST_F(Configuration, StoredInterchangeCheckFailsTheInitialisation) {
       ErrorOf(VI_NULL));
 }
 
+TEST_F(Configuration, OptionStringWinsOverTheStoredInterchangeCheck) {
+  StoredSession session = Simulated();
+  session.interchange_check = true;
+  ASSERT_STATUS(VI_SUCCESS, OpenStored(session, "interchangecheck=0"));
+  EXPECT_EQ(VI_FALSE, BooleanAttribute(KVTD481X2C_ATTR_INTERCHANGE_CHECK));
+}
+
 TEST_F(Configuration, StoredDriverSetupSetsTheModel) {
   StoredSession session = Simulated();
   session.driver_setup = "Model:TD48142C";
@@ -168,6 +175,20 @@ TEST_F(Configuration, IntegerSettingNamedModelDoesNotSetTheModel) {
       Setting("Integer", "Model", "48142") + Setting("Real", "Offset", "-1.5") + Setting("Boolean", "Trace", "1");
   ASSERT_STATUS(VI_SUCCESS, OpenStored(session));
   EXPECT_EQ("TD48122C", TextAttribute(KVTD481X2C_ATTR_INSTRUMENT_MODEL));
+}
+
+TEST_F(Configuration, SettingOfAnotherKindIsSkipped) {
+  StoredSession session = Simulated();
+  session.settings = Setting("APIReference", "Model", "TD48142C") + Setting("String", "Trace", "on");
+  ASSERT_STATUS(VI_SUCCESS, OpenStored(session));
+  EXPECT_EQ("TD48122C", TextAttribute(KVTD481X2C_ATTR_INSTRUMENT_MODEL));
+}
+
+TEST_F(Configuration, LaterOfTwoSettingsOfOneNameHolds) {
+  StoredSession session = Simulated();
+  session.settings = Setting("String", "Model", "TD48142C") + Setting("String", "MODEL", "TD48172C");
+  ASSERT_STATUS(VI_SUCCESS, OpenStored(session));
+  EXPECT_EQ("TD48172C", TextAttribute(KVTD481X2C_ATTR_INSTRUMENT_MODEL));
 }
 
 TEST_F(Configuration, SettingsOfTheModuleHoldForADescriptorOnly) {
