@@ -414,8 +414,8 @@ TEST_F(EnumWordsDialogue, TheScopeOfAFileResetGoesOutInItsFirstWord) {
   EXPECT_STATUS(kCannotRecover, KVTD481X2C_ResetSystemFiles(vi, 2));
 }
 
-TEST_F(EnumWordsDialogue, AValueWithoutAWordIsStillNamedWhenTheClassRefusesIt) {
-  // 5 is no leveling source at all, so its number stands for it.
+// 5 is no leveling source at all, so it has no name.
+TEST_F(EnumWordsDialogue, ANumberThatNamesNothingStandsForItselfInTheRefusalOfTheClass) {
   EXPECT_STATUS(kValueNotSupported, KVTD481X2C_SetAttributeViInt32(vi, nullptr, KVTD481X2C_ATTR_ALC_SOURCE, 5));
   EXPECT_EQ(
       "Does not support this class-compliant feature:  Enumeration value '5' passed as the value for parameter "
