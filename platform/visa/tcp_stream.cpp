@@ -123,11 +123,17 @@ ViStatus TcpStream::Send(std::span<iovec> pieces, Deadline& deadline, std::size_
   while (!pieces.empty()) {
     if (!first && deadline.Expired()) return VI_ERROR_TMO;
     first = false;
-    msghdr message{};
-    message.msg_iov = pieces.data();
-    message.msg_iovlen = std::min(pieces.size(), kMostPieces);
     const int flags = MSG_NOSIGNAL | (deadline.ShorterThan(kSliceMilliseconds) ? MSG_DONTWAIT : 0);
-    const ssize_t count = ::sendmsg(socket_, &message, flags);
+    ssize_t count = 0;
+    if (pieces.size() == 1) {
+      // The common case, and cheaper: the kernel need not fetch a description of the pieces.
+      count = ::send(socket_, pieces.front().iov_base, pieces.front().iov_len, flags);
+    } else {
+      msghdr message{};
+      message.msg_iov = pieces.data();
+      message.msg_iovlen = std::min(pieces.size(), kMostPieces);
+      count = ::sendmsg(socket_, &message, flags);
+    }
     if (count < 0) {
       if (const ViStatus status = AfterFailure(POLLOUT, deadline); status < 0) return status;
       continue;

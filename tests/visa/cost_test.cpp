@@ -38,6 +38,7 @@ void operator delete[](void* memory, std::size_t) noexcept { std::free(memory); 
 
 extern "C" {
 ssize_t __real_sendmsg(int socket, const msghdr* message, int flags);
+ssize_t __real_send(int socket, const void* bytes, size_t size, int flags);
 ssize_t __real_recv(int socket, void* into, size_t room, int flags);
 int __real_poll(pollfd* waits, nfds_t count, int timeout);
 int __real_setsockopt(int socket, int level, int option, const void* value, socklen_t size);
@@ -45,6 +46,10 @@ int __real_setsockopt(int socket, int level, int option, const void* value, sock
 ssize_t __wrap_sendmsg(int socket, const msghdr* message, int flags) {
   if (counting) ++sends;
   return __real_sendmsg(socket, message, flags);
+}
+ssize_t __wrap_send(int socket, const void* bytes, size_t size, int flags) {
+  if (counting) ++sends;
+  return __real_send(socket, bytes, size, flags);
 }
 ssize_t __wrap_recv(int socket, void* into, size_t room, int flags) {
   if (counting) ++receives;

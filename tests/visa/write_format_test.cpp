@@ -125,6 +125,8 @@ TEST_F(WriteFormat, ArraysGoOutWithCommasBetween) {
   EXPECT_EQ("1.000000000000000,2.500000000000000", Text("%0.15,*lf", ViInt32{2}, reals.data()));
   EXPECT_EQ(":L \n", Text(":L %0.15,*lf\n", ViInt32{0}, reals.data()));
   EXPECT_EQ("   1.0,   2.5", Text("%6.1,2lf", reals.data()));
+  const std::array<ViReal64, 4> mixed{1, 1e19, -2, -1e19};
+  EXPECT_EQ("1.0,10000000000000000000.0,-2.0,-10000000000000000000.0", Text("%.1,4lf", mixed.data()));
   const std::array<ViInt32, 3> longs{1, -2, 3};
   EXPECT_EQ("1,-2,3", Text("%,3ld", longs.data()));
   const std::array<ViInt16, 2> shorts{-1, 2};

@@ -23,7 +23,7 @@ constexpr std::array<std::uint64_t, 20> kPowersOfTen = [] {
 
 // Eight digits of a number below 10^8 as text in one register, the first digit in the lowest byte: halves, then
 // quarters, then single digits are split off in parallel lanes.
-std::uint64_t EightDigits(std::uint32_t value) {
+[[gnu::always_inline]] inline std::uint64_t EightDigits(std::uint32_t value) {
   const std::uint64_t halves = value / 10000 | (static_cast<std::uint64_t>(value % 10000) << 32);
   const std::uint64_t high_pairs = (halves * 10486 >> 20) & 0x0000007F'0000007F;
   const std::uint64_t pairs = high_pairs + ((halves - 100 * high_pairs) << 16);
@@ -34,13 +34,13 @@ std::uint64_t EightDigits(std::uint32_t value) {
 static_assert(std::endian::native == std::endian::little, "the lowest byte of EightDigits goes out first");
 
 // `count` digits (1 to 8) of a number that has no more; writes eight bytes whatever the count.
-void WriteGroup(char* out, std::uint64_t value, int count) {
+[[gnu::always_inline]] inline void WriteGroup(char* out, std::uint64_t value, int count) {
   const std::uint64_t text = EightDigits(static_cast<std::uint32_t>(value)) >> (8 * (8 - count));
   std::memcpy(out, &text, sizeof text);
 }
 
 // Exactly `count` digits (1 to 19), zeros in front; writes up to seven bytes beyond them.
-void WriteDigits(char* out, std::uint64_t value, int count) {
+[[gnu::always_inline]] inline void WriteDigits(char* out, std::uint64_t value, int count) {
   constexpr std::uint64_t kGroup = 100000000;
   if (count <= 8) return WriteGroup(out, value, count);
   const std::uint64_t above = value / kGroup;
@@ -53,7 +53,7 @@ void WriteDigits(char* out, std::uint64_t value, int count) {
   WriteGroup(out + count - 8, value % kGroup, 8);
 }
 
-int DigitCount(std::uint64_t value) {
+[[gnu::always_inline]] inline int DigitCount(std::uint64_t value) {
   // log10(2) is near 1233 / 4096; the comparison mends the one case in which the product falls short.
   const auto guess = static_cast<std::size_t>(std::bit_width(value | 1)) * 1233 >> 12;
   return static_cast<int>(guess) + ((value | 1) >= kPowersOfTen[guess] ? 1 : 0);
@@ -61,7 +61,7 @@ int DigitCount(std::uint64_t value) {
 
 // fraction * scale / 2^shift (1 or more), rounded half to even; `odd` says that an odd digit stands before a quotient
 // of zero. Sums instead of branches: whether to round up is nothing that a processor could guess.
-std::uint64_t Scaled(std::uint64_t fraction, std::uint64_t scale, int shift, bool odd) {
+[[gnu::always_inline]] inline std::uint64_t Scaled(std::uint64_t fraction, std::uint64_t scale, int shift, bool odd) {
   const Wide product = static_cast<Wide>(fraction) * scale;
   if (shift < 64) [[likely]] {
     const auto low = static_cast<std::uint64_t>(product);
@@ -75,9 +75,8 @@ std::uint64_t Scaled(std::uint64_t fraction, std::uint64_t scale, int shift, boo
   return static_cast<std::uint64_t>((product + ((Wide{1} << (shift - 1)) - 1) + tie_up) >> shift);
 }
 
-}  // namespace
-
-char* WriteFixed(char* out, double value, int places) {
+// Inlined into both callers: in the loop over a list, what depends on the places alone is computed once.
+[[gnu::always_inline]] inline char* Write(char* out, double value, int places, std::uint64_t scale) {
   constexpr int kMantissaBits = 52;
   constexpr std::uint64_t kHidden = std::uint64_t{1} << kMantissaBits;
   const auto bits = std::bit_cast<std::uint64_t>(value);
@@ -88,7 +87,6 @@ char* WriteFixed(char* out, double value, int places) {
 
   std::uint64_t whole = 0;
   std::uint64_t fraction = 0;
-  const std::uint64_t scale = kPowersOfTen[static_cast<std::size_t>(places)];
   if (exponent >= 0) {
     whole = mantissa << exponent;
   } else {
@@ -114,6 +112,25 @@ char* WriteFixed(char* out, double value, int places) {
     WriteDigits(out, fraction, places);
     out += places;
   }
+  return out;
+}
+
+}  // namespace
+
+char* WriteFixed(char* out, double value, int places) {
+  return Write(out, value, places, kPowersOfTen[static_cast<std::size_t>(places)]);
+}
+
+char* WriteFixedList(char* out, const double*& values, const double* end, int places) {
+  const std::uint64_t scale = kPowersOfTen[static_cast<std::size_t>(places)];
+  const double* value = values;
+  for (; value != end; ++value) {
+    char* const next = Write(out + 1, *value, places, scale);
+    if (next == nullptr) break;
+    *out = ',';
+    out = next;
+  }
+  values = value;
   return out;
 }
 
