@@ -35,6 +35,8 @@ int main(int argc, char** argv) {
   app.add_option("--serial", options.identity.serial, "serial number")->capture_default_str();
   app.add_option("--listen", options.address, "address to listen on")->capture_default_str();
   app.add_option("--socket", port, "port of the raw socket; 0 picks a free one")->capture_default_str();
+  app.add_option("--hislip", options.hislip_port,
+                 "port of HiSLIP, 4880 by custom; 0 picks a free one; off unless given");
   app.add_flag("--exit-with-stdin", options.end_with_stdin,
                "end at the end of standard input; its lines are what happens at the bench (see README)");
   app.add_option("--fault", fault_texts,

@@ -33,7 +33,10 @@ bool IsOurName(std::string name) {
 class HislipServer::Impl : public Hall {
  public:
   Impl(Services& services, const std::string& address, std::uint16_t port)
-      : services_(services), locks_(services.io(), [this] { LocksChanged(); }), acceptor_(services.io()) {
+      : services_(services),
+        locks_(services.io(), [this] { LocksChanged(); }),
+        acceptor_(services.io()),
+        retry_(services.io()) {
     const tcp::endpoint endpoint(asio::ip::make_address(address), port);
     acceptor_.open(endpoint.protocol());
     acceptor_.set_option(tcp::acceptor::reuse_address(true));
@@ -61,6 +64,7 @@ class HislipServer::Impl : public Hall {
   void StopListening() {
     asio::error_code ignored;
     acceptor_.close(ignored);
+    retry_.cancel();
   }
 
  private:
@@ -109,14 +113,19 @@ class HislipServer::Impl : public Hall {
   void Accept() {
     acceptor_.async_accept([this](const asio::error_code& problem, tcp::socket socket) {
       if (!acceptor_.is_open()) return;
-      if (!problem) {
-        const auto guest = std::make_shared<Guest>(*this, std::make_shared<Channel>(std::move(socket)));
-        if (guests_.size() < kMostGuests) {
-          guests_.insert(guest);
-          guest->Start();
-        } else {
-          guest->channel->SendFatal(Fatal::kTooManyClients);
-        }
+      if (problem) {  // out of descriptors, most likely: some connections may end before the next try
+        retry_.expires_after(std::chrono::milliseconds(100));
+        retry_.async_wait([this](const asio::error_code& stopped) {
+          if (!stopped) Accept();
+        });
+        return;
+      }
+      const auto guest = std::make_shared<Guest>(*this, std::make_shared<Channel>(std::move(socket)));
+      if (guests_.size() < kMostGuests) {
+        guests_.insert(guest);
+        guest->Start();
+      } else {
+        guest->channel->SendFatal(Fatal::kTooManyClients);
       }
       Accept();
     });
@@ -167,6 +176,7 @@ class HislipServer::Impl : public Hall {
   Services& services_;
   Locks locks_;
   tcp::acceptor acceptor_;
+  asio::steady_timer retry_;
   std::set<GuestPointer> guests_;
   std::map<std::uint16_t, std::shared_ptr<Session>> sessions_;
   std::uint16_t last_id_ = 0;

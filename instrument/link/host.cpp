@@ -17,6 +17,7 @@
 #include <iostream>
 
 #include "link/console.h"
+#include "link/hislip_server.h"
 #include "link/services.h"
 #include "link/socket_link.h"
 
@@ -30,6 +31,10 @@ class Host::Impl : public Services {
       : instrument_(options.identity), acceptor_(io_), timer_(io_), signals_(io_), stdin_(io_) {
     for (const Fault& fault : options.faults) faults_.Add(fault);
     if (options.socket_port) Listen(options.address, *options.socket_port);
+    if (options.hislip_port) {
+      hislip_.emplace(*this, options.address, *options.hislip_port);
+      listeners_.push_back({"hislip", options.address, hislip_->port()});
+    }
     if (options.end_on_signals) {
       signals_.add(SIGINT);
       signals_.add(SIGTERM);
@@ -60,6 +65,7 @@ class Host::Impl : public Services {
         Stop();
         break;
     }
+    if (hislip_) hislip_->StatusChanged();
     if (!instrument_.operations_pending()) {
       ForEachLink([this](const std::shared_ptr<Link>& link) {
         if (link->waiting()) asio::post(io_, [link] { link->Pump(); });
@@ -78,6 +84,7 @@ class Host::Impl : public Services {
     asio::post(io_, [this] {
       asio::error_code ignored;
       acceptor_.close(ignored);
+      if (hislip_) hislip_->StopListening();
       signals_.cancel(ignored);
       stdin_.close(ignored);
       timer_.cancel();
@@ -120,11 +127,13 @@ class Host::Impl : public Services {
     ForEachLink([](const std::shared_ptr<Link>& link) { link->Close(); });
     links_.clear();
   }
+    if (hislip_) hislip_->ForEachLink(work);
 
   void ReadStdin() {
     asio::async_read_until(stdin_, asio::dynamic_buffer(typed_, 4096), '\n',
                            [this](const asio::error_code& problem, std::size_t length) {
                              if (problem == asio::error::operation_aborted) return;
+    if (hislip_) hislip_->CloseClients();
                              if (problem) return Stop();
                              const std::string line = typed_.substr(0, length - 1);
                              typed_.erase(0, length);
@@ -148,6 +157,7 @@ class Host::Impl : public Services {
   std::string typed_;
 };
 
+  std::optional<HislipServer> hislip_;
 Host::Host(HostOptions options) : impl_(std::make_unique<Impl>(std::move(options))) {}
 Host::~Host() = default;
 

@@ -17,13 +17,14 @@ struct HostOptions {
   model::Identity identity;
   std::string address = "127.0.0.1";
   std::optional<std::uint16_t> socket_port = std::uint16_t{0};  // 0 picks a free one
+  std::optional<std::uint16_t> hislip_port;                     // nothing: no HiSLIP
   bool end_on_signals = false;                                  // SIGINT, SIGTERM
   bool end_with_stdin = false;
   std::vector<Fault> faults;
 };
 
 struct Listener {
-  std::string protocol;  // "socket"
+  std::string protocol;  // "socket", "hislip"
   std::string address;
   std::uint16_t port = 0;
 };
