@@ -10,4 +10,15 @@ if(TARGET kvtd_test_support)
             hislip_hostile_test.cpp
     LIBS visa_hislip_peer
     LABELS visa hislip)
+
+  kvtd_test(visa_hislip_cost_test SOURCES hislip_cost_test.cpp LIBS visa_hislip_peer LABELS visa hislip)
+  target_link_options(visa_hislip_cost_test PRIVATE -Wl,--wrap=sendmsg,--wrap=recv,--wrap=poll)
+
+  if(TARGET td481x2c-instrument)
+    kvtd_test(visa_hislip_instrument_test
+      SOURCES hislip_instrument_test.cpp LIBS visa_hislip_peer LABELS visa instrument hislip)
+    add_dependencies(visa_hislip_instrument_test td481x2c-instrument)
+    target_compile_definitions(visa_hislip_instrument_test PRIVATE
+      KVTD_INSTRUMENT="$<TARGET_FILE:td481x2c-instrument>")
+  endif()
 endif()
