@@ -415,6 +415,16 @@ TEST_F(Lock, NestsWithoutAVariable) {
   EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_UnlockSession(vi, nullptr));
 }
 
+// The call gives back its own level in place of the caller's, and then has none left for itself. Without an instrument,
+// as its thread would not be there in the process that dies.
+TEST(LockDeathTest, GivingBackALockThatNobodyHoldsEndsTheProcess) {
+  std::string resource = "SIM";
+  ViSession vi = VI_NULL;
+  ASSERT_STATUS(VI_SUCCESS, KVTD481X2C_InitWithOptions(resource.data(), VI_FALSE, VI_FALSE, "Simulate=1", &vi));
+  EXPECT_DEATH(KVTD481X2C_UnlockSession(vi, nullptr), "status >= 0");
+  EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_close(vi));
+}
+
 TEST_F(Lock, AnotherThreadWaitsUntilItIsGivenBack) {
   EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_LockSession(vi, nullptr));
   EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_SetFrequencyMultiplier(vi, 1.0));
