@@ -132,6 +132,28 @@ TEST_F(AttributeAccessDialogue, ANullPointerIsRefusedBeforeTheIdAndTheHandleAreL
                 KVTD481X2C_GetAttributeViInt32(0xDEADBEEF, nullptr, KVTD481X2C_ATTR_FREQUENCY_MODE, nullptr));
 }
 
+// With a handle that is not open the text is the thread's, found under handle 0.
+TEST_F(AttributeAccessDialogue, ANullPointerIsRefusedOnAConstantOfTheDriverAlsoWithAHandleThatIsNotOpen) {
+  for (const ViAttr attribute : {KVTD481X2C_ATTR_SPECIFIC_DRIVER_CLASS_SPEC_MAJOR_VERSION,
+                                 KVTD481X2C_ATTR_SPECIFIC_DRIVER_CLASS_SPEC_MINOR_VERSION}) {
+    EXPECT_STATUS(kNullPointer, KVTD481X2C_GetAttributeViInt32(0xDEADBEEF, nullptr, attribute, nullptr));
+    EXPECT_EQ((RecordedError{kNullPointer,
+                             "Null pointer passed for function 'KVTD481X2C_GetAttributeViInt32', parameter "
+                             "'AttributeValue'."}),
+              ErrorOf(VI_NULL));
+  }
+  for (const ViAttr attribute :
+       {KVTD481X2C_ATTR_SUPPORTED_INSTRUMENT_MODELS, KVTD481X2C_ATTR_GROUP_CAPABILITIES,
+        KVTD481X2C_ATTR_SPECIFIC_DRIVER_PREFIX, KVTD481X2C_ATTR_SPECIFIC_DRIVER_VENDOR,
+        KVTD481X2C_ATTR_SPECIFIC_DRIVER_DESCRIPTION, KVTD481X2C_ATTR_SPECIFIC_DRIVER_REVISION}) {
+    EXPECT_STATUS(kNullPointer, KVTD481X2C_GetAttributeViString(0xDEADBEEF, nullptr, attribute, 64, nullptr));
+    EXPECT_EQ((RecordedError{kNullPointer,
+                             "Null pointer passed for function 'GetAttributeViString', parameter "
+                             "'AttributeValueBufferSize'."}),
+              ErrorOf(VI_NULL));
+  }
+}
+
 TEST_F(AttributeAccessDialogue, IdAndTypeAreRefusedBeforeTheHandleIsLookedAt) {
   ViInt32 value = 0;
   EXPECT_STATUS(kUnknownAttribute, KVTD481X2C_GetAttributeViInt32(0, nullptr, 1234, &value));
@@ -239,6 +261,21 @@ TEST_F(TextDialogue, ANegativeSizeTakesUpToFourThousandAndNinetyFiveCharacters) 
   GuardedText<4096> full;
   EXPECT_STATUS(VI_SUCCESS, ReadHostName(std::string(5000, 'y'), full, -2147483647));
   EXPECT_EQ(std::string(4095, 'y'), full.text());
+}
+
+TEST_F(TextDialogue, FourThousandAndNinetyFiveCharactersAreTheLongestText) {
+  GuardedText<5000> text;
+  EXPECT_STATUS(VI_SUCCESS, ReadHostName(std::string(4095, 'y'), text, text.size()));
+  EXPECT_EQ(std::string(4095, 'y'), text.text());
+}
+
+class TextDialogueDeathTest : public TextDialogue {};
+
+TEST_F(TextDialogueDeathTest, ALongerTextInALargerBufferEndsTheProcess) {
+  Sent(":SYST:COMM:LAN:HOST?\n");
+  Answer(std::string(4096, 'y') + '\n');
+  GuardedText<5000> text;
+  EXPECT_DEATH(KVTD481X2C_GetLanHostname(vi, text.size(), text.data()), "MAX_STRING_ATTRIBUTE_LENGTH");
 }
 
 TEST_F(TextDialogue, AFailedReadIsToldBeforeTheSizeOfItsText) {
