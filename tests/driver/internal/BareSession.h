@@ -19,6 +19,7 @@ inline constexpr ViStatus kUnknownOption = Status(0xBFFA004BU);
 inline constexpr ViStatus kUnknownOptionValue = Status(0xBFFA004CU);
 inline constexpr ViStatus kNullPointer = Status(0xBFFA0058U);
 inline constexpr ViStatus kUnexpectedResponse = Status(0xBFFA0059U);
+inline constexpr ViStatus kInvalidHandle = Status(0xBFFA1190U);
 
 class BareSession : public testing::Test {
  protected:
