@@ -91,6 +91,13 @@ TEST_F(Options, AnUnknownValueIsToldInLowerCaseAndLeavesTheFlag) {
   ExpectFailure(kUnknownOptionValue, "The 'yes' value in the option string is unknown.", "simulate=YES");
 }
 
+TEST_F(Options, AnOptionWithAnUnknownValueIsKeptAmongTheOptionsSeen) {
+  EXPECT_EQ(kUnknownOptionValue, session().ParseInherentOptions("cache=maybe"));
+  ASSERT_EQ(1U, session().InherentOptions().size());
+  EXPECT_EQ("cache", session().InherentOptions().begin()->first);
+  EXPECT_EQ("maybe", Inherent("cache"));
+}
+
 TEST_F(Options, AnOptionTwiceIsRefusedEvenWithEqualValues) {
   ExpectFailure(kCannotRecover, "Failure cannot recover.  Inherent option 'simulate' appears more than once.",
                 "Simulate=1,simulate=1");
