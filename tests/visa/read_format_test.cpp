@@ -129,16 +129,19 @@ TEST_F(ReadFormat, WhatIsNoNumberDoesNotMatch) {
   }
 }
 
-TEST_F(ReadFormat, TheMessagesEndLeavesLaterVariablesAlone) {
+TEST_F(ReadFormat, ANumberThatNeverCameIsAFailureAndItsVariableStays) {
   ViInt32 first = 0;
   ViInt32 second = 77;
-  EXPECT_EQ(VI_SUCCESS, Scan("1", "%ld,%ld%*t", &first, &second));
-  EXPECT_EQ(VI_SUCCESS, Scan("2\n", "%ld,%ld%*t", &first, &second));
+  ViReal64 real = 7.5;
+  EXPECT_EQ(VI_ERROR_INV_FMT, Scan("1", "%ld,%ld%*t", &first, &second));
+  EXPECT_EQ(VI_ERROR_INV_FMT, Scan("2\n", "%ld,%ld%*t", &first, &second));
   EXPECT_EQ(2, first);
+  EXPECT_EQ(VI_ERROR_INV_FMT, Scan("3,\n", "%ld,%ld%*t", &first, &second));
+  EXPECT_EQ(VI_ERROR_INV_FMT, Scan("\n", "%ld", &second));
+  EXPECT_EQ(VI_ERROR_INV_FMT, Scan("", "%ld", &second));
+  EXPECT_EQ(VI_ERROR_INV_FMT, Scan(" \n", "%lf%*t", &real));
   EXPECT_EQ(77, second);
-  EXPECT_EQ(VI_SUCCESS, Scan("\n", "%ld", &second));
-  EXPECT_EQ(VI_SUCCESS, Scan("", "%ld", &second));
-  EXPECT_EQ(77, second);
+  EXPECT_EQ(7.5, real);
 }
 
 TEST_F(ReadFormat, NumbersSeparatedByCommasFillAnArray) {
@@ -337,6 +340,21 @@ TEST_F(Query, FewerFieldsThanAskedForLeaveTheRestAlone) {
                                  fields[2].data()));
   EXPECT_STREQ("Model", fields[1].data());
   EXPECT_STREQ("before", fields[2].data());
+}
+
+TEST_F(Query, ALineEndLeftBehindABlockIsNotTheNextNumbersAnswer) {
+  OpenToAnswer("\n42\n");
+  ViInt32 number = 0;
+  EXPECT_EQ(VI_SUCCESS, viQueryf(vi, "COUNT?\n", "%ld%*t", &number));
+  EXPECT_EQ(42, number);
+}
+
+TEST_F(Query, AnEmptyLineIsNoNumber) {
+  OpenToAnswer("\n");
+  ASSERT_EQ(VI_SUCCESS, viSetAttribute(vi, VI_ATTR_TMO_VALUE, 50));
+  ViReal64 number = 7.5;
+  EXPECT_EQ(VI_ERROR_TMO, viQueryf(vi, "LEVEL?\n", "%lf%*t", &number));
+  EXPECT_EQ(7.5, number);
 }
 
 TEST_F(Query, AFieldIsCutAtItsWidthAndTheRestOfTheLineGoes) {

@@ -40,6 +40,7 @@ class Reader {
   ViStatus Read(const char* format);
 
  private:
+  static bool LeavesNumberOut(const char* format);
   ViStatus Literal(ViByte wanted);
   ViStatus Convert(const ReadDirective& directive);
   ViStatus ConvertText(const ReadDirective& directive);
@@ -69,7 +70,24 @@ ViStatus Reader::Read(const char* format) {
     }
     if (status < 0) return status;
   }
-  return VI_SUCCESS;
+  return LeavesNumberOut(format) ? VI_ERROR_INV_FMT : VI_SUCCESS;
+}
+
+// What the message was too short for stays as it was. A text may do that; a number that never came must not pass for
+// one.
+bool Reader::LeavesNumberOut(const char* format) {
+  while (*format != '\0') {
+    if (*format++ != '%') continue;
+    if (*format == '%') {
+      ++format;
+      continue;
+    }
+    ReadDirective directive;
+    if (!ParseReadDirective(format, directive)) return false;
+    const bool number = IsIntegerCode(directive.code) || IsRealCode(directive.code);
+    if (number && !directive.suppressed && directive.size.given == Given::kNot) return true;
+  }
+  return false;
 }
 
 ViStatus Reader::Literal(ViByte wanted) {
@@ -201,8 +219,11 @@ ViStatus Reader::Numbers(const ReadDirective& directive) {
       if (in_.Peek() != ',') break;
       in_.Take();
     }
-    in_.SkipSpace();
-    if (in_.ended()) break;
+    in_.SkipSpace(true);
+    if (in_.ended()) {
+      if (stored == 0 && directive.size.given == Given::kNot && !directive.suppressed) status = VI_ERROR_INV_FMT;
+      break;
+    }
     ScannedNumber number;
     if (!number.Scan(in_, base, width)) {
       status = NoMatch();

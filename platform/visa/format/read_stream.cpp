@@ -13,12 +13,15 @@ int ReadStream::PeekAt(std::size_t distance) {
   return static_cast<unsigned char>(next_[distance]);
 }
 
-void ReadStream::SkipSpace() {
+void ReadStream::SkipSpace(bool and_empty_lines) {
   while (IsSpace(Peek())) {
-    const bool end_of_an_earlier_message = stale_ && AtFinalByte();
     const bool stale = stale_;
+    const bool blank = blank_;
+    const bool empty_line = and_empty_lines && blank && final_ == Final::kTermchar;
+    const bool end_of_an_earlier_message = (stale || empty_line) && AtFinalByte();
     TakeMany(1);
     stale_ = stale && next_ != last_;
+    blank_ = blank;
     if (end_of_an_earlier_message) {
       ended_ = false;
       final_ = Final::kNot;

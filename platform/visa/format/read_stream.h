@@ -32,11 +32,13 @@ class ReadStream {
     next_ += count;
     taken_ += count;
     stale_ = false;
+    blank_ = false;
     if (next_ == last_ && final_ != Final::kNot) ended_ = true;
   }
   // Takes white space. What an earlier call left behind may consist of nothing else; the end in it is not the end of
-  // the message that is wanted now.
-  void SkipSpace();
+  // the message that is wanted now. Neither, for a number, is a line without anything in front of it, where only a
+  // character tells the end: behind a block that was read by other means one is left over.
+  void SkipSpace(bool and_empty_lines = false);
 
   // Is the next byte, which Peek showed, the one that only marks the end of the message, and no part of its text?
   bool AtTerminator() const { return AtFinalByte() && (final_ == Final::kTermchar || *next_ == '\n'); }
@@ -57,6 +59,7 @@ class ReadStream {
  protected:
   void BeginCall() {
     stale_ = next_ != last_;
+    blank_ = true;
     ended_ = false;
     status_ = VI_SUCCESS;
     taken_ = 0;
@@ -78,6 +81,7 @@ class ReadStream {
   bool More() { return !ended_ && status_ >= 0 && Refill(); }
 
   bool stale_ = false;  // nothing but white space has been taken of what an earlier call left
+  bool blank_ = true;   // nothing but white space has been taken in this call
   std::size_t taken_ = 0;
 };
 
