@@ -32,8 +32,19 @@ class FloorClient {
   FloorClient& operator=(const FloorClient&) = delete;
 
   void Send(std::string_view text) {
-    if (::send(socket_, text.data(), text.size(), MSG_NOSIGNAL) != static_cast<ssize_t>(text.size())) {
-      throw std::runtime_error("short send");
+    while (!text.empty()) {
+      const ssize_t sent = ::send(socket_, text.data(), text.size(), MSG_NOSIGNAL);
+      if (sent <= 0) throw std::runtime_error("no send");
+      text.remove_prefix(static_cast<std::size_t>(sent));
+    }
+  }
+
+  void Receive(char* into, std::size_t count) {
+    while (count > 0) {
+      const ssize_t got = ::recv(socket_, into, count, MSG_WAITALL);
+      if (got <= 0) throw std::runtime_error("no answer");
+      into += got;
+      count -= static_cast<std::size_t>(got);
     }
   }
 
