@@ -28,7 +28,7 @@ using asio::ip::tcp;
 class Host::Impl : public Services {
  public:
   explicit Impl(HostOptions options)
-      : instrument_(options.identity), acceptor_(io_), timer_(io_), signals_(io_), stdin_(io_) {
+      : instrument_(options.identity), acceptor_(io_), timer_(io_), retry_(io_), signals_(io_), stdin_(io_) {
     for (const Fault& fault : options.faults) faults_.Add(fault);
     if (options.socket_port) Listen(options.address, *options.socket_port);
     if (options.hislip_port) {
@@ -88,6 +88,7 @@ class Host::Impl : public Services {
       signals_.cancel(ignored);
       stdin_.close(ignored);
       timer_.cancel();
+      retry_.cancel();
       CloseLinks();
       io_.stop();
     });
@@ -107,12 +108,17 @@ class Host::Impl : public Services {
   void Accept() {
     acceptor_.async_accept([this](const asio::error_code& problem, tcp::socket socket) {
       if (!acceptor_.is_open()) return;
-      if (!problem) {
-        auto link = std::make_shared<SocketLink>(std::move(socket), *this);
-        std::erase_if(links_, [](const std::weak_ptr<Link>& old) { return old.expired(); });
-        links_.push_back(link);
-        link->Start();
+      if (problem) {  // out of descriptors, most likely: let some links end before the next try
+        retry_.expires_after(std::chrono::milliseconds(100));
+        retry_.async_wait([this](const asio::error_code& stopped) {
+          if (!stopped) Accept();
+        });
+        return;
       }
+      auto link = std::make_shared<SocketLink>(std::move(socket), *this);
+      std::erase_if(links_, [](const std::weak_ptr<Link>& old) { return old.expired(); });
+      links_.push_back(link);
+      link->Start();
       Accept();
     });
   }
@@ -121,19 +127,19 @@ class Host::Impl : public Services {
     for (const auto& weak : std::vector(links_)) {
       if (const auto link = weak.lock()) work(link);
     }
+    if (hislip_) hislip_->ForEachLink(work);
   }
 
   void CloseLinks() {
     ForEachLink([](const std::shared_ptr<Link>& link) { link->Close(); });
     links_.clear();
+    if (hislip_) hislip_->CloseClients();
   }
-    if (hislip_) hislip_->ForEachLink(work);
 
   void ReadStdin() {
     asio::async_read_until(stdin_, asio::dynamic_buffer(typed_, 4096), '\n',
                            [this](const asio::error_code& problem, std::size_t length) {
                              if (problem == asio::error::operation_aborted) return;
-    if (hislip_) hislip_->CloseClients();
                              if (problem) return Stop();
                              const std::string line = typed_.substr(0, length - 1);
                              typed_.erase(0, length);
@@ -151,13 +157,14 @@ class Host::Impl : public Services {
   std::vector<Listener> listeners_;
   std::vector<std::weak_ptr<Link>> links_;
   tcp::acceptor acceptor_;
+  std::optional<HislipServer> hislip_;
   asio::steady_timer timer_;
+  asio::steady_timer retry_;
   asio::signal_set signals_;
   asio::posix::stream_descriptor stdin_;
   std::string typed_;
 };
 
-  std::optional<HislipServer> hislip_;
 Host::Host(HostOptions options) : impl_(std::make_unique<Impl>(std::move(options))) {}
 Host::~Host() = default;
 
