@@ -6,8 +6,6 @@ std::string_view ErrorText(Error error) {
   switch (error) {
     case Error::kNone:
       return "No error";
-    case Error::kCommand:
-      return "Command error";
     case Error::kInvalidCharacter:
       return "Invalid character";
     case Error::kSyntax:
@@ -56,8 +54,6 @@ std::string_view ErrorText(Error error) {
       return "Illegal parameter value";
     case Error::kListsNotSameLength:
       return "Lists not same length";
-    case Error::kHardwareMissing:
-      return "Hardware missing";
     case Error::kMassStorage:
       return "Mass storage error";
     case Error::kMissingMassStorage:

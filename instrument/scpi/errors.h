@@ -9,7 +9,6 @@ namespace siggen::scpi {
 
 enum class Error : int {
   kNone = 0,
-  kCommand = -100,
   kInvalidCharacter = -101,
   kSyntax = -102,
   kInvalidSeparator = -103,
@@ -34,7 +33,6 @@ enum class Error : int {
   kTooMuchData = -223,
   kIllegalParameter = -224,
   kListsNotSameLength = -226,
-  kHardwareMissing = -241,
   kMassStorage = -250,
   kMissingMassStorage = -251,
   kMissingMedia = -252,

@@ -52,7 +52,14 @@ void Framer::Clear() {
   begin_ = position_ = end_;
   marked_end_.reset();
   in_ = In::kPlain;
+  in_blocks_ = 0;
   at_parameter_ = overlong_ = false;
+}
+
+void Framer::CheckLength() {
+  const std::size_t arrived = position_ - begin_;
+  const std::size_t blocks = in_blocks_ - (in_ == In::kBlock ? block_left_ : 0);
+  if (!overlong_ && arrived - blocks > longest_text_) overlong_ = true;
 }
 
 bool Framer::Scan() {
@@ -68,7 +75,7 @@ bool Framer::Scan() {
     }
     const char c = buffer_.get()[position_];
     if (c == '\n') {
-      if (position_ - begin_ > longest_) overlong_ = true;
+      CheckLength();
       return true;
     }
     ++position_;
@@ -89,7 +96,8 @@ bool Framer::Scan() {
         block_left_ = block_left_ * 10 + static_cast<std::size_t>(c - '0');
         if (--digits_left_ == 0) {
           in_ = In::kBlock;
-          if (block_left_ + (position_ - begin_) > longest_) overlong_ = true;
+          in_blocks_ += block_left_;
+          if (in_blocks_ > longest_block_) overlong_ = true;
         }
         break;
       case In::kPlain:
@@ -107,7 +115,7 @@ bool Framer::Scan() {
         break;
     }
   }
-  if (position_ - begin_ > longest_) overlong_ = true;
+  CheckLength();
   if (overlong_) begin_ = position_;  // only the end of the message still matters
   return false;
 }
@@ -116,6 +124,7 @@ Message Framer::Cut(std::size_t end) {
   Message message{{buffer_, std::string_view(buffer_.get() + begin_, end - begin_)}, overlong_};
   if (overlong_) message.text.view = {};
   in_ = In::kPlain;
+  in_blocks_ = 0;
   at_parameter_ = overlong_ = false;
   return message;
 }

@@ -25,9 +25,10 @@ struct Message {
 class Framer {
  public:
   static constexpr std::size_t kLongestBlock = std::size_t{256} << 20;
-  static constexpr std::size_t kLongestMessage = kLongestBlock + (std::size_t{1} << 20);
+  static constexpr std::size_t kLongestText = std::size_t{1} << 20;  // of a message, its blocks not counted
 
-  explicit Framer(std::size_t longest_message = kLongestMessage) : longest_(longest_message) {}
+  explicit Framer(std::size_t longest_text = kLongestText, std::size_t longest_block = kLongestBlock)
+      : longest_text_(longest_text), longest_block_(longest_block) {}
 
   // Where the next bytes are to be written; never empty. Filled() says how many were.
   std::span<char> Room();
@@ -48,7 +49,10 @@ class Framer {
   bool Scan();  // true when position_ stands behind a whole message
   Message Cut(std::size_t end);
 
-  std::size_t longest_;
+  void CheckLength();
+
+  std::size_t longest_text_;
+  std::size_t longest_block_;
   std::shared_ptr<char[]> buffer_;
   std::size_t capacity_ = 0;
   std::size_t begin_ = 0;     // of the message under way
@@ -61,6 +65,7 @@ class Framer {
   bool at_parameter_ = false;  // the last visible byte was a separator, so that '#' would begin a block
   unsigned digits_left_ = 0;
   std::size_t block_left_ = 0;
+  std::size_t in_blocks_ = 0;  // bytes of the message under way that belong to its blocks
   bool overlong_ = false;
 };
 

@@ -8,6 +8,7 @@ namespace siggen::scpi {
 namespace {
 
 constexpr std::size_t kLongestMnemonic = 12;
+constexpr std::size_t kMostArguments = 8192;  // twice what the longest list needs
 
 // Not <cctype>: the process locale must not decide what a letter is.
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
@@ -81,6 +82,7 @@ void Parser::ReadArguments(Unit& unit) {
   SkipBlanks();
   if (rest_.empty() || Peek() == ';') return;
   while (true) {
+    if (unit.arguments.size() == kMostArguments) throw Refusal(Error::kParameterNotAllowed, std::string(unit.header));
     ReadArgument(unit.arguments.emplace_back());
     SkipBlanks();
     if (rest_.empty() || Peek() == ';') return;

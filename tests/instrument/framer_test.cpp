@@ -81,7 +81,7 @@ TEST(Framer, AMessageBeyondTheLimitIsDroppedAndTheNextOneIsWhole) {
 }
 
 TEST(Framer, ABlockThatAnnouncesMoreThanTheLimitTakesNoMemoryForIt) {
-  Framer framer(100);
+  Framer framer(100, 99'999);
   framer.Append(":X #6100000");
   EXPECT_FALSE(framer.Next());
   for (int i = 0; i < 100; ++i) {
@@ -91,6 +91,13 @@ TEST(Framer, ABlockThatAnnouncesMoreThanTheLimitTakesNoMemoryForIt) {
   }
   framer.Append("\n*CLS\n");
   EXPECT_EQ((Messages{"overlong", "*CLS"}), All(framer));
+}
+
+TEST(Framer, BlocksDoNotCountAsText) {
+  Framer framer(100, 1000);
+  const std::string message = ":X #3500" + std::string(500, '\n') + ",#3400" + std::string(400, 'b');
+  framer.Append(message + "\n:X #3600" + std::string(600, 'c') + ",#3600" + std::string(600, 'd') + "\n*CLS\n");
+  EXPECT_EQ((Messages{message, "overlong", "*CLS"}), All(framer));
 }
 
 TEST(Framer, AKnownBlockGetsItsRoomAtOnceAndStaysWhereItWasReceived) {

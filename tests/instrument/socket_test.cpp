@@ -73,7 +73,7 @@ TEST_F(Socket, AnArmedListIsTriggeredAndPlayedInRealTime) {
 TEST_F(Socket, OthersAreServedWhileOneWaits) {
   client_.Send(":INIT:CONT OFF;:TRIG:TYPE SINGle;:FREQ:MODE SWE;:INIT;*OPC?\n");
   Client other(instrument_.port());
-  while (other.Ask(":STAT:OPER:COND?") != "32") {
+  for (int tries = 0; other.Ask(":STAT:OPER:COND?") != "32" && tries < 10'000; ++tries) {
   }
   other.Send(":ABOR\n");
   EXPECT_EQ("1\n", client_.Receive());
