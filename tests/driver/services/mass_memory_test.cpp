@@ -653,6 +653,16 @@ TEST_F(MemoryDialogue, AScreenshotThatIsNoBlockFailsAndTheNextQueryIsInStep) {
   EXPECT_EQ(6, period);
 }
 
+TEST_F(MemoryDialogue, AnEmptyLineIsNotTakenForABufferFullOfPicture) {
+  PictureIsAnsweredBy("\n");
+  instrument.Close();
+  GuardedBytes<16> picture;
+  ViInt32 actual = 77;
+  KVTD481X2C_TakeScreenshotAndReturnData(vi, picture.size(), picture.bytes(), &actual);
+  EXPECT_NE(picture.size(), actual);
+  EXPECT_TRUE(picture.Untouched());
+}
+
 TEST_F(MemoryDialogue, AScreenshotIntoNothingIsRefusedByTheFirstNullParameter) {
   GuardedBytes<4> picture;
   ViInt32 actual = 77;
