@@ -99,7 +99,6 @@ ViStatus ReadBlock(const ReadDirective& directive, Args& args, ReadStream& in) {
                                              : TakeToEnd(in, target, to_end, stored);
   } else {
     in.SkipSpace();
-    if (in.ended()) return VI_SUCCESS;
     std::optional<std::size_t> length;
     if (!TakeHeader(in, length)) {
       status = Unfinished(in);
