@@ -1,5 +1,19 @@
 /* Amplitude and frequency modulation: the class's calls, the LF generators behind them, and the measured result. */
-#include "example.h"
+#include <KVTD481X2C.h>
+#include <stdio.h>
+#include <stdlib.h>
+
+/* Whether a call worked. If not, the driver's words about it are printed; with a status of VISA's it may have none. */
+static int Worked(const char* call, ViSession vi, ViStatus status) {
+  ViStatus code = VI_SUCCESS;
+  ViChar text[1024] = "";
+
+  if (status >= VI_SUCCESS) return 1;
+  KVTD481X2C_GetError(vi, &code, (ViInt32)sizeof text, text);
+  if (code != status) text[0] = '\0';
+  printf("%s failed with 0x%08X: %s\n", call, (unsigned)status, text[0] != '\0' ? text : "(no text recorded)");
+  return 0;
+}
 
 /* The instrument has no LF generators apart: each is the internal source of one modulation. */
 static int PrintGenerators(ViSession vi) {
@@ -84,4 +98,18 @@ static int Show(ViSession vi) {
   return 1;
 }
 
-int main(int argc, char** argv) { return argc == 2 ? RunExample(argv[1], Show) : Usage(argv[0], ""); }
+int main(int argc, char** argv) {
+  ViSession vi = VI_NULL;
+  int good;
+
+  if (argc != 2) {
+    fprintf(stderr, "usage: %s RESOURCE, such as TCPIP0::192.168.0.20::5025::SOCKET\n", argv[0]);
+    return EXIT_FAILURE;
+  }
+  good = Worked("InitWithOptions", VI_NULL,
+                KVTD481X2C_InitWithOptions(argv[1], VI_TRUE, VI_TRUE, "QueryInstrStatus=1", &vi));
+  good = good && Show(vi);
+  if (vi != VI_NULL && KVTD481X2C_close(vi) < VI_SUCCESS) good = 0;
+  printf(good ? "Done\n" : "Failed\n");
+  return good ? EXIT_SUCCESS : EXIT_FAILURE;
+}

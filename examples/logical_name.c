@@ -1,5 +1,19 @@
 /* Opens an instrument by its logical name: what and where it is stands in the IVI configuration store. */
-#include "example.h"
+#include <KVTD481X2C.h>
+#include <stdio.h>
+#include <stdlib.h>
+
+/* Whether a call worked. If not, the driver's words about it are printed; with a status of VISA's it may have none. */
+static int Worked(const char* call, ViSession vi, ViStatus status) {
+  ViStatus code = VI_SUCCESS;
+  ViChar text[1024] = "";
+
+  if (status >= VI_SUCCESS) return 1;
+  KVTD481X2C_GetError(vi, &code, (ViInt32)sizeof text, text);
+  if (code != status) text[0] = '\0';
+  printf("%s failed with 0x%08X: %s\n", call, (unsigned)status, text[0] != '\0' ? text : "(no text recorded)");
+  return 0;
+}
 
 static int Show(ViSession vi) {
   static const struct {
@@ -26,9 +40,17 @@ static int Show(ViSession vi) {
 }
 
 int main(int argc, char** argv) {
+  ViSession vi = VI_NULL;
+  int good;
+
   if (argc != 2) {
     fprintf(stderr, "usage: %s LOGICAL_NAME, a name of the IVI configuration store\n", argv[0]);
     return EXIT_FAILURE;
   }
-  return RunExample(argv[1], Show);
+  good = Worked("InitWithOptions", VI_NULL,
+                KVTD481X2C_InitWithOptions(argv[1], VI_TRUE, VI_TRUE, "QueryInstrStatus=1", &vi));
+  good = good && Show(vi);
+  if (vi != VI_NULL && KVTD481X2C_close(vi) < VI_SUCCESS) good = 0;
+  printf(good ? "Done\n" : "Failed\n");
+  return good ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -1,11 +1,24 @@
 /* Settings saved in a file of the instrument, changed, and recalled. */
+#include <KVTD481X2C.h>
+#include <stdio.h>
+#include <stdlib.h>
 #include <string.h>
-
-#include "example.h"
 
 static ViConstString const kDevice = "Internal";
 static ViConstString const kDirectory = "/Bench";
 static ViConstString const kFile = "/Bench/receiver.sta";
+
+/* Whether a call worked. If not, the driver's words about it are printed; with a status of VISA's it may have none. */
+static int Worked(const char* call, ViSession vi, ViStatus status) {
+  ViStatus code = VI_SUCCESS;
+  ViChar text[1024] = "";
+
+  if (status >= VI_SUCCESS) return 1;
+  KVTD481X2C_GetError(vi, &code, (ViInt32)sizeof text, text);
+  if (code != status) text[0] = '\0';
+  printf("%s failed with 0x%08X: %s\n", call, (unsigned)status, text[0] != '\0' ? text : "(no text recorded)");
+  return 0;
+}
 
 static int PrintSettings(ViSession vi, const char* title) {
   ViReal64 frequency = 0.0;
@@ -62,4 +75,18 @@ static int Show(ViSession vi) {
          Worked("DeleteDirectory", vi, KVTD481X2C_DeleteDirectory(vi, kDevice, kDirectory));
 }
 
-int main(int argc, char** argv) { return argc == 2 ? RunExample(argv[1], Show) : Usage(argv[0], ""); }
+int main(int argc, char** argv) {
+  ViSession vi = VI_NULL;
+  int good;
+
+  if (argc != 2) {
+    fprintf(stderr, "usage: %s RESOURCE, such as TCPIP0::192.168.0.20::5025::SOCKET\n", argv[0]);
+    return EXIT_FAILURE;
+  }
+  good = Worked("InitWithOptions", VI_NULL,
+                KVTD481X2C_InitWithOptions(argv[1], VI_TRUE, VI_TRUE, "QueryInstrStatus=1", &vi));
+  good = good && Show(vi);
+  if (vi != VI_NULL && KVTD481X2C_close(vi) < VI_SUCCESS) good = 0;
+  printf(good ? "Done\n" : "Failed\n");
+  return good ? EXIT_SUCCESS : EXIT_FAILURE;
+}

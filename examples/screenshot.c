@@ -1,12 +1,25 @@
 /* The instrument's screen as a PNG file. */
+#include <KVTD481X2C.h>
+#include <stdio.h>
+#include <stdlib.h>
 #include <string.h>
-
-#include "example.h"
 
 /* Far more than a picture of the screen takes. */
 enum { kMostBytes = 4 * 1024 * 1024 };
 
 static const char* file_name = "screenshot.png";
+
+/* Whether a call worked. If not, the driver's words about it are printed; with a status of VISA's it may have none. */
+static int Worked(const char* call, ViSession vi, ViStatus status) {
+  ViStatus code = VI_SUCCESS;
+  ViChar text[1024] = "";
+
+  if (status >= VI_SUCCESS) return 1;
+  KVTD481X2C_GetError(vi, &code, (ViInt32)sizeof text, text);
+  if (code != status) text[0] = '\0';
+  printf("%s failed with 0x%08X: %s\n", call, (unsigned)status, text[0] != '\0' ? text : "(no text recorded)");
+  return 0;
+}
 
 static unsigned long BigEndian(const ViByte* bytes) {
   return (unsigned long)bytes[0] << 24 | (unsigned long)bytes[1] << 16 | (unsigned long)bytes[2] << 8 |
@@ -48,6 +61,18 @@ static int Show(ViSession vi) {
 }
 
 int main(int argc, char** argv) {
+  ViSession vi = VI_NULL;
+  int good;
+
+  if (argc != 2 && argc != 3) {
+    fprintf(stderr, "usage: %s RESOURCE [FILE], with a resource such as TCPIP0::192.168.0.20::5025::SOCKET\n", argv[0]);
+    return EXIT_FAILURE;
+  }
   if (argc == 3) file_name = argv[2];
-  return argc == 2 || argc == 3 ? RunExample(argv[1], Show) : Usage(argv[0], " [FILE]");
+  good = Worked("InitWithOptions", VI_NULL,
+                KVTD481X2C_InitWithOptions(argv[1], VI_TRUE, VI_TRUE, "QueryInstrStatus=1", &vi));
+  good = good && Show(vi);
+  if (vi != VI_NULL && KVTD481X2C_close(vi) < VI_SUCCESS) good = 0;
+  printf(good ? "Done\n" : "Failed\n");
+  return good ? EXIT_SUCCESS : EXIT_FAILURE;
 }
