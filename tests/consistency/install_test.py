@@ -74,6 +74,17 @@ class InstalledTree(unittest.TestCase):
         self.assertEqual([], list(self.prefix.rglob("Tvr.h")), "the runtime's headers are nobody's business")
         self.assertIn("frequency.md", {page.name for page in self.installed("reference").iterdir()})
 
+    def test_the_master_store_is_offered_apart_and_an_existing_one_stays(self):
+        self.assertEqual([], list(self.prefix.rglob("IviConfigurationStore.xml")))
+        root = self.work / "root"
+        install = ["cmake", "--install", project.BUILD, "--component", "master_store"]
+        self.succeed(*install, env={**os.environ, "DESTDIR": str(root)})
+        (store,) = root.rglob("IviConfigurationStore.xml")
+        self.assertIn("<Name>KVTD481X2C</Name>", store.read_text(encoding="utf-8"))
+        store.write_text("somebody's own", encoding="utf-8")
+        self.succeed(*install, env={**os.environ, "DESTDIR": str(root)})
+        self.assertEqual("somebody's own", store.read_text(encoding="utf-8"))
+
 
 if __name__ == "__main__":
     unittest.main()
