@@ -208,6 +208,7 @@ TEST_F(SettleMark, ARefusedCommandLeavesTheMark) {
 TEST_F(SettleMark, ALostConnectionLeavesTheMark) {
   QueryInstrumentStatus(true);
   Sent(":OUTP 1\n");
+  Sent("*ESR?\n");
   instrument.Close();
   EXPECT_STATUS(kVisaConnectionLost, KVTD481X2C_ConfigureOutputEnabled(vi, VI_TRUE));
   EXPECT_EQ(kNever, Mark());
