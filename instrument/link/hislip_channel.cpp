@@ -138,7 +138,7 @@ void Channel::Write() {
   for (const scpi::Bytes& part : next.parts) buffers.emplace_back(part.view.data(), part.view.size());
   asio::async_write(socket_, buffers, [self = shared_from_this()](const asio::error_code& problem, std::size_t) {
     self->writing_ = false;
-    if (problem) {
+    if (problem || self->outgoing_.empty()) {
       self->outgoing_.clear();
       if (self->receiver_) self->receiver_->Lost(*self);
       return;
@@ -151,9 +151,15 @@ void Channel::Write() {
   });
 }
 
+// What waits to be sent may keep the receiver alive, as the receiver does this channel.
+void Channel::Forget() {
+  receiver_.reset();
+  outgoing_.clear();
+}
+
 void Channel::Close() {
   asio::error_code ignored;
-  receiver_.reset();
+  Forget();
   socket_.shutdown(asio::ip::tcp::socket::shutdown_both, ignored);
   socket_.close(ignored);
 }
@@ -161,7 +167,7 @@ void Channel::Close() {
 void Channel::Reset() {
   asio::error_code ignored;
   socket_.set_option(asio::socket_base::linger(true, 0), ignored);
-  receiver_.reset();
+  Forget();
   socket_.close(ignored);
 }
 

@@ -73,6 +73,7 @@ class Channel : public std::enable_shared_from_this<Channel> {
   bool TakeBuffered(Receiver& receiver);
   void Read();
   void Write();
+  void Forget();
   std::size_t buffered() const { return end_ - begin_; }
 
   asio::ip::tcp::socket socket_;

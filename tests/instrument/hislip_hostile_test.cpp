@@ -112,7 +112,7 @@ TEST_F(HislipHostile, TheLargestLengthThereIsAsksForNoMemory) {
   client.async.Send(Frame("HS 03 00 00000000 FFFFFFFFFFFFFFFF", std::string(100000, 'x')));
 }
 
-TEST_F(HislipHostile, AClientThatNeverReadsIsGivenUp) {
+TEST_F(HislipHostile, AFloodOfMessagesGoesWithItsClient) {
   HislipClient client(instrument_.port());
   std::string flood;
   for (int i = 0; i < 512; ++i) flood += Frame("HS 0C 00 FFFFFF00 0000000000000000");
