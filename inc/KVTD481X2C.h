@@ -4001,8 +4001,8 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetDefaultMemoryDevice(ViSession Vi,
 /**
  * Reads a picture of the instrument's screen.
  *
- * With KVTD481X2C_ATTR_SYSTEM_IO_TIMEOUT below 20000 ms the transfer runs with 20000 ms, which is put back behind it.
- * When the query fails, the timeout stays at 20000 ms.
+ * With KVTD481X2C_ATTR_SYSTEM_IO_TIMEOUT below 20000 ms, or without end (-1), the transfer runs with 20000 ms, which is
+ * put back behind it. When the query fails, the timeout stays at 20000 ms.
  *
  * @param Vi             Handle from KVTD481X2C_InitWithOptions.
  * @param ValBufferSize  Size of Val in bytes. Not negative.
@@ -6909,9 +6909,9 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_ResetWithDefaults(ViSession Vi);
 /**
  * Runs the instrument's extended self test.
  *
- * With KVTD481X2C_ATTR_SYSTEM_IO_TIMEOUT below 10000 ms the test runs with 10000 ms, which is put back behind the
- * status check. The status is then that of putting it back, so that a refusal does not show. When the exchange fails,
- * the timeout stays at 10000 ms.
+ * With KVTD481X2C_ATTR_SYSTEM_IO_TIMEOUT below 10000 ms, or without end (-1), the test runs with 10000 ms, which is put
+ * back behind the status check. The status is then that of putting it back, so that a refusal does not show. When the
+ * exchange fails, the timeout stays at 10000 ms.
  *
  * @param Vi             Handle from KVTD481X2C_InitWithOptions.
  * @param ValBufferSize  Size of Val, terminator included; at least 1, not tested.
@@ -7106,10 +7106,10 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_StatusPreset(ViSession Vi);
 /**
  * Presets the instrument.
  *
- * A preset takes longer than a common command: with KVTD481X2C_ATTR_SYSTEM_IO_TIMEOUT below 10000 ms it runs with 10000
- * ms, which is put back behind the status check. The status is then that of putting it back, so that a refusal of the
- * preset does not show. When the command cannot be sent, the timeout stays at 10000 ms. The values that the session
- * remembers stay.
+ * A preset takes longer than a common command: with KVTD481X2C_ATTR_SYSTEM_IO_TIMEOUT below 10000 ms, or without end
+ * (-1), it runs with 10000 ms, which is put back behind the status check. The status is then that of putting it back,
+ * so that a refusal of the preset does not show. When the command cannot be sent, the timeout stays at 10000 ms. The
+ * values that the session remembers stay.
  *
  * @param Vi  Handle from KVTD481X2C_InitWithOptions.
  * @return VI_SUCCESS or a negative status:

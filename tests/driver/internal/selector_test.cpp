@@ -351,5 +351,9 @@ TEST_F(Selectors, ARangeOfAHundredNamesExpandsWhole) {
   EXPECT_EQ("n1000", names.back());
 }
 
+TEST(SelectorDeathTest, ACapabilityWithoutNamesIsAFaultOfOurOwn) {
+  EXPECT_DEATH(tvr::RepeatedCapability("Nothing", ""), "names.size\\(\\) > 0");
+}
+
 }  // namespace
 }  // namespace kvtd::test

@@ -289,6 +289,14 @@ TEST_F(ResetDialogue, ASystemPresetRunsWithAtLeastTenSeconds) {
   EXPECT_EQ(50, IoTimeout());
 }
 
+// Without an end it reads as -1, and that is below every limit.
+TEST_F(ResetDialogue, ATimeoutWithoutEndIsReplacedForASystemPresetAndComesBack) {
+  SetIoTimeout(-1);
+  Script("> :SYST:PRES");
+  EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_SystemPreset(vi));
+  EXPECT_EQ(-1, IoTimeout());
+}
+
 TEST_F(ResetDialogue, ARestoredTimeoutHidesTheRefusalOfASystemPreset) {
   SetIoTimeout(5000);
   QueryInstrumentStatus(true);
