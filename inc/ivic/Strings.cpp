@@ -42,8 +42,7 @@ std::string LowerCase(std::string_view text) {
 void CopyText(std::string_view text, ViInt32 size, ViChar* buffer) {
   if (size < 1) return;
   const std::size_t length = std::min(text.size(), static_cast<std::size_t>(size) - 1);
-  std::memcpy(buffer, text.data(), length);
-  buffer[length] = '\0';
+  *std::copy_n(text.begin(), length, buffer) = '\0';
 }
 
 std::string_view BoundedText(const ViChar* buffer, ViInt32 size) {

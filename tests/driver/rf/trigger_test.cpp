@@ -97,6 +97,7 @@ TEST_F(TriggerDialogue, EachCommandIsFollowedByAStatusCheck) {
 TEST_F(TriggerDialogue, ALostConnectionComesBackFromACommandsStatusCheck) {
   QueryInstrumentStatus(true);
   Sent(":ABOR\n");
+  Sent("*ESR?\n");
   instrument.Close();
   EXPECT_STATUS(kVisaConnectionLost, KVTD481X2C_Abort(vi));
   EXPECT_EQ(kNothingRecorded, LastError());
