@@ -11,7 +11,8 @@ set(published ${PROJECT_SOURCE_DIR}/inc/KVTD481X2C.h ${PROJECT_SOURCE_DIR}/platf
 set(embedded "")
 if(NOT KVTD_VISA_LIBRARY)
   list(APPEND embedded tvrvisa)
-  list(APPEND published ${PROJECT_SOURCE_DIR}/platform/visa/include/visa.h)
+  list(APPEND published ${PROJECT_SOURCE_DIR}/platform/visa/include/visa.h
+       ${PROJECT_SOURCE_DIR}/platform/visa/include/tvrvisa.h)
 endif()
 if(NOT KVTD_IVI_SESSION_LIBRARY OR NOT KVTD_IVI_CONFIG_LIBRARY)
   list(APPEND embedded tvrivi)

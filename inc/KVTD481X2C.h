@@ -6185,6 +6185,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_StartReferenceCalibration(ViSession 
  * @return VI_SUCCESS or a negative status:
  *         0xBFFA1190  Vi is not an open handle (no text is recorded)
  *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         0xBFFA0058  List is null; not looked at in a simulated session
  *         a VISA status when the exchange fails
  *
  * Sends `:SYST:COMM:LAN:DNSS:APP <List>`.
@@ -6204,6 +6205,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_AddDnsServers(ViSession Vi, ViConstS
  * @return VI_SUCCESS or a negative status:
  *         0xBFFA1190  Vi is not an open handle (no text is recorded)
  *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         0xBFFA0058  one of First, Second, Third is null; not looked at in a simulated session
  *         a VISA status when the exchange fails
  *
  * Sends `:SYST:COMM:LAN:DNS <First>,<Second>,<Third>`.
@@ -6378,6 +6380,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_GetStaticLanConfiguration(ViSession 
  * @return VI_SUCCESS or a negative status:
  *         0xBFFA1190  Vi is not an open handle (no text is recorded)
  *         0xBFFA0001  the instrument reports an error; needs KVTD481X2C_ATTR_QUERY_INSTRUMENT_STATUS
+ *         0xBFFA0058  List is null; not looked at in a simulated session
  *         a VISA status when the exchange fails
  *
  * Sends `:SYST:COMM:LAN:DNSS:DEL <List>`.
@@ -6486,6 +6489,7 @@ KVTD481X2C_API ViStatus _VI_FUNC KVTD481X2C_SetLanHostname(ViSession Vi, ViConst
  * @return VI_SUCCESS or a negative status:
  *         0xBFFA1190  Vi is not an open handle (no text is recorded)
  *         0xBFFA0001  never from this call: no status check follows it
+ *         0xBFFA0058  one of First, Second, Third is null; not looked at in a simulated session
  *         a VISA status when the exchange fails
  *
  * Sends `%s`.

@@ -90,11 +90,7 @@ ViStatus Configure(ViSession vi, Setting<Types>... settings) {
   CallFrame call(vi);
   if (!call.ok()) return call.status();
   ViStatus status = VI_SUCCESS;
-  const auto set = [&]<class T>(const Setting<T>& setting) {
-    status = SetAttribute<T>(vi, nullptr, setting.id, setting.value);
-    return status >= 0;
-  };
-  static_cast<void>((set(settings) && ...));
+  static_cast<void>(((status = SetAttribute<Types>(vi, nullptr, settings.id, settings.value), status >= 0) && ...));
   return status;
 }
 

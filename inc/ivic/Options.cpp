@@ -68,6 +68,7 @@ class PairWalk {
 }  // namespace
 
 ViStatus DriverSession::ParseOptionString(const std::string& text) {
+  if (text.empty()) return VI_SUCCESS;
   std::smatch match;
   if (!std::regex_search(text, match, DriverSetupPattern())) return ParseInherentOptions(text);
   if (const ViStatus status = ParseDriverSetup(match[1].str()); status < 0) return status;

@@ -50,6 +50,22 @@ const std::regex& TokenPattern() {
   return pattern;
 }
 
+// A single name, as most selectors are: what the patterns above would find at once is known without them.
+bool IsOneName(std::string_view text) {
+  const auto in_name = [](char c) {
+    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '_' || c == '!';
+  };
+  return !text.empty() && std::all_of(text.begin(), text.end(), in_name);
+}
+
+// With its own commas, a physical name is a list of names.
+std::string PhysicalText(ViSession vi, const std::string& name) {
+  const std::string physical = SessionOf(vi).VirtualToPhysical(name);
+  const bool several =
+      physical != name && physical.find(',') != std::string::npos && physical.find(':') == std::string::npos;
+  return several ? "[" + physical + "]" : physical;
+}
+
 bool ParseIndex(const std::string& digits, ViInt32& index) {
   const char* const end = digits.data() + digits.size();
   const auto [stop, fault] = std::from_chars(digits.data(), end, index);
@@ -59,21 +75,18 @@ bool ParseIndex(const std::string& digits, ViInt32& index) {
 }  // namespace
 
 ViStatus ValidateSelector(ViSession vi, const std::string& text) {
-  if (std::regex_match(text, SelectorPattern())) return VI_SUCCESS;
+  if (IsOneName(text) || std::regex_match(text, SelectorPattern())) return VI_SUCCESS;
   return RaiseError(vi, error::kBadlyFormedSelector);
 }
 
 std::string ApplyVirtualNames(ViSession vi, const std::string& text) {
+  if (IsOneName(text)) return PhysicalText(vi, text);
   std::string result;
   auto copied = text.begin();
   const std::sregex_iterator end;
   for (std::sregex_iterator token(text.begin(), text.end(), TokenPattern()); token != end; ++token) {
     const auto& match = (*token)[0];
-    const std::string name = match.str();
-    const std::string physical = SessionOf(vi).VirtualToPhysical(name);
-    const bool several =
-        physical != name && physical.find(',') != std::string::npos && physical.find(':') == std::string::npos;
-    result.append(copied, match.first).append(several ? "[" + physical + "]" : physical);
+    result.append(copied, match.first).append(PhysicalText(vi, match.str()));
     copied = match.second;
   }
   return result.append(copied, text.end());

@@ -7,8 +7,8 @@
 #include <map>
 #include <set>
 
+#include "link/acceptor.h"
 #include "link/hislip_channel.h"
-#include "link/hislip_locks.h"
 #include "link/hislip_session.h"
 
 namespace siggen::link {
@@ -34,22 +34,12 @@ class HislipServer::Impl : public Hall {
  public:
   Impl(Services& services, const std::string& address, std::uint16_t port)
       : services_(services),
-        locks_(services.io(), [this] { LocksChanged(); }),
-        acceptor_(services.io()),
-        retry_(services.io()) {
-    const tcp::endpoint endpoint(asio::ip::make_address(address), port);
-    acceptor_.open(endpoint.protocol());
-    acceptor_.set_option(tcp::acceptor::reuse_address(true));
-    acceptor_.bind(endpoint);
-    acceptor_.listen();
-    Accept();
-  }
+        acceptor_(services.io(), address, port, [this](tcp::socket socket) { Take(std::move(socket)); }) {}
 
   Services& services() override { return services_; }
-  Locks& locks() override { return locks_; }
   void Leave(Session& session) override { sessions_.erase(session.id()); }
 
-  std::uint16_t port() const { return acceptor_.local_endpoint().port(); }
+  std::uint16_t port() const { return acceptor_.port(); }
   template <class Work>
   void ForEach(Work work) {
     for (const auto& [id, session] : std::map(sessions_)) work(session);
@@ -57,15 +47,14 @@ class HislipServer::Impl : public Hall {
   void StatusChanged() {
     if (!sessions_.empty()) ForEach([](const auto& session) { session->StatusChanged(); });
   }
+  void LocksChanged() {
+    ForEach([](const auto& session) { session->LocksChanged(); });
+  }
   void CloseClients() {
     ForEach([](const auto& session) { session->Close(); });
     for (const auto& guest : std::set(guests_)) Dismiss(guest);
   }
-  void StopListening() {
-    asio::error_code ignored;
-    acceptor_.close(ignored);
-    retry_.cancel();
-  }
+  void StopListening() { acceptor_.Close(); }
 
  private:
   // A connection of which nobody knows yet which it will be.
@@ -110,25 +99,11 @@ class HislipServer::Impl : public Hall {
   };
   using GuestPointer = std::shared_ptr<Guest>;
 
-  void Accept() {
-    acceptor_.async_accept([this](const asio::error_code& problem, tcp::socket socket) {
-      if (!acceptor_.is_open()) return;
-      if (problem) {  // out of descriptors, most likely: some connections may end before the next try
-        retry_.expires_after(std::chrono::milliseconds(100));
-        retry_.async_wait([this](const asio::error_code& stopped) {
-          if (!stopped) Accept();
-        });
-        return;
-      }
-      const auto guest = std::make_shared<Guest>(*this, std::make_shared<Channel>(std::move(socket)));
-      if (guests_.size() < kMostGuests) {
-        guests_.insert(guest);
-        guest->Start();
-      } else {
-        guest->channel->SendFatal(Fatal::kTooManyClients);
-      }
-      Accept();
-    });
+  void Take(tcp::socket socket) {
+    const auto guest = std::make_shared<Guest>(*this, std::make_shared<Channel>(std::move(socket)));
+    if (guests_.size() >= kMostGuests) return guest->channel->SendFatal(Fatal::kTooManyClients);
+    guests_.insert(guest);
+    guest->Start();
   }
 
   void Farewell(const GuestPointer& guest) {
@@ -169,17 +144,11 @@ class HislipServer::Impl : public Hall {
     found->second->Attach(guest->channel);
   }
 
-  void LocksChanged() {
-    ForEach([](const auto& session) { session->LocksChanged(); });
-  }
-
   Services& services_;
-  Locks locks_;
-  tcp::acceptor acceptor_;
-  asio::steady_timer retry_;
   std::set<GuestPointer> guests_;
   std::map<std::uint16_t, std::shared_ptr<Session>> sessions_;
   std::uint16_t last_id_ = 0;
+  Acceptor acceptor_;
 };
 
 HislipServer::HislipServer(Services& services, const std::string& address, std::uint16_t port)
@@ -189,6 +158,7 @@ HislipServer::~HislipServer() = default;
 std::uint16_t HislipServer::port() const { return impl_->port(); }
 void HislipServer::ForEachLink(const std::function<void(const std::shared_ptr<Link>&)>& work) { impl_->ForEach(work); }
 void HislipServer::StatusChanged() { impl_->StatusChanged(); }
+void HislipServer::LocksChanged() { impl_->LocksChanged(); }
 void HislipServer::CloseClients() { impl_->CloseClients(); }
 void HislipServer::StopListening() { impl_->StopListening(); }
 

@@ -21,8 +21,9 @@ class HislipServer {
 
   std::uint16_t port() const;
   void ForEachLink(const std::function<void(const std::shared_ptr<Link>&)>& work);
-  // After the status model may have changed.
+  // After the status model or the locks may have changed.
   void StatusChanged();
+  void LocksChanged();
   void CloseClients();
   void StopListening();
 

@@ -54,7 +54,7 @@ void Session::Attach(std::shared_ptr<Channel> async) {
 
 bool Session::Ready(Channel& from) {
   if (&from != sync_.get() || clearing_ || !complete()) return true;
-  return hall_.locks().Admits(this) && !busy() && !exchange_.waiting();
+  return services_.locks().Admits(this) && !busy() && !exchange_.waiting();
 }
 
 // May this message come, at this place and in this size?
@@ -146,8 +146,8 @@ void Session::EndsAsynchronous(const Header& header, const std::string& text) {
       return Lock(header, text);
     case Message::kAsyncLockInfo:
       return async_->Send({Message::kAsyncLockInfoResponse,
-                           hall_.locks().exclusive() ? std::uint8_t{1} : std::uint8_t{0},
-                           static_cast<std::uint32_t>(hall_.locks().holders())});
+                           services_.locks().exclusive() ? std::uint8_t{1} : std::uint8_t{0},
+                           static_cast<std::uint32_t>(services_.locks().holders())});
     case Message::kAsyncRemoteLocalControl:
       return async_->Send({Message::kAsyncRemoteLocalResponse});
     case Message::kAsyncDeviceClear:
@@ -325,22 +325,22 @@ void Session::Lock(const Header& header, const std::string& key) {
   if (header.control == 0) {
     // The client's messages up to the one it names were still sent under the lock.
     const bool done = clearing_ || static_cast<std::int32_t>(last_id_ - header.parameter) >= 0;
-    if (done || !hall_.locks().Admits(this)) return ReleaseLock();
+    if (done || !services_.locks().Admits(this)) return ReleaseLock();
     release_after_ = header.parameter;
     return;
   }
-  hall_.locks().Request(this, key, std::chrono::milliseconds(header.parameter),
-                        [weak = weak_from_this()](Locks::Outcome outcome) {
-                          const auto self = weak.lock();
-                          if (!self || self->gone_) return;
-                          self->async_->Send({Message::kAsyncLockResponse, static_cast<std::uint8_t>(outcome)});
-                          self->sync_->Resume();
-                        });
+  services_.locks().Request(this, key, std::chrono::milliseconds(header.parameter),
+                            [weak = weak_from_this()](Locks::Outcome outcome) {
+                              const auto self = weak.lock();
+                              if (!self || self->gone_) return;
+                              self->async_->Send({Message::kAsyncLockResponse, static_cast<std::uint8_t>(outcome)});
+                              self->sync_->Resume();
+                            });
 }
 
 void Session::ReleaseLock() {
   release_after_.reset();
-  const Locks::Released released = hall_.locks().Release(this);
+  const Locks::Released released = services_.locks().Release(this);
   async_->Send({Message::kAsyncLockResponse, static_cast<std::uint8_t>(released)});
 }
 
@@ -351,7 +351,7 @@ bool Session::Forget() {
   timer_.cancel();
   exchange_.Clear();
   answer_.clear();
-  hall_.locks().Forget(this);
+  services_.locks().Forget(this);
   hall_.Leave(*this);
   return true;
 }

@@ -9,7 +9,6 @@
 #include <vector>
 
 #include "link/hislip_channel.h"
-#include "link/hislip_locks.h"
 #include "link/services.h"
 #include "scpi/framer.h"
 #include "scpi/session.h"
@@ -23,7 +22,6 @@ class Hall {
  public:
   virtual ~Hall() = default;
   virtual Services& services() = 0;
-  virtual Locks& locks() = 0;
   virtual void Leave(Session& session) = 0;
 };
 

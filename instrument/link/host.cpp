@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <asio/buffer.hpp>
 #include <asio/executor_work_guard.hpp>
-#include <asio/ip/address.hpp>
 #include <asio/ip/tcp.hpp>
 #include <asio/posix/stream_descriptor.hpp>
 #include <asio/post.hpp>
@@ -16,10 +15,13 @@
 #include <future>
 #include <iostream>
 
+#include "link/acceptor.h"
 #include "link/console.h"
 #include "link/hislip_server.h"
+#include "link/port_mapping.h"
 #include "link/services.h"
 #include "link/socket_link.h"
+#include "link/vxi11_server.h"
 
 namespace siggen::link {
 
@@ -28,12 +30,25 @@ using asio::ip::tcp;
 class Host::Impl : public Services {
  public:
   explicit Impl(HostOptions options)
-      : instrument_(options.identity), acceptor_(io_), timer_(io_), retry_(io_), signals_(io_), stdin_(io_) {
+      : instrument_(options.identity),
+        locks_(io_, [this] { LocksChanged(); }),
+        timer_(io_),
+        signals_(io_),
+        stdin_(io_) {
     for (const Fault& fault : options.faults) faults_.Add(fault);
-    if (options.socket_port) Listen(options.address, *options.socket_port);
+    if (options.socket_port) {
+      acceptor_.emplace(io_, options.address, *options.socket_port,
+                        [this](tcp::socket socket) { TakeLink(std::move(socket)); });
+      listeners_.push_back({"socket", options.address, acceptor_->port()});
+    }
     if (options.hislip_port) {
       hislip_.emplace(*this, options.address, *options.hislip_port);
       listeners_.push_back({"hislip", options.address, hislip_->port()});
+    }
+    if (options.vxi11_port) {
+      vxi11_.emplace(*this, options.address, *options.vxi11_port);
+      listeners_.push_back({"vxi11", options.address, vxi11_->port()});
+      if (options.map_port) MapPort(options);
     }
     if (options.end_on_signals) {
       signals_.add(SIGINT);
@@ -51,6 +66,7 @@ class Host::Impl : public Services {
   asio::io_context& io() override { return io_; }
   model::Instrument& instrument() override { return instrument_; }
   FaultPlan& faults() override { return faults_; }
+  Locks& locks() override { return locks_; }
   const std::vector<Listener>& listeners() const { return listeners_; }
 
   void Worked() override {
@@ -66,6 +82,7 @@ class Host::Impl : public Services {
         break;
     }
     if (hislip_) hislip_->StatusChanged();
+    if (vxi11_) vxi11_->StatusChanged();
     if (!instrument_.operations_pending()) {
       ForEachLink([this](const std::shared_ptr<Link>& link) {
         if (link->waiting()) asio::post(io_, [link] { link->Pump(); });
@@ -83,44 +100,29 @@ class Host::Impl : public Services {
   void Stop() {
     asio::post(io_, [this] {
       asio::error_code ignored;
-      acceptor_.close(ignored);
+      if (acceptor_) acceptor_->Close();
       if (hislip_) hislip_->StopListening();
+      if (vxi11_) vxi11_->StopListening();
+      if (mapped_port_) mapped_port_->Close();
       signals_.cancel(ignored);
       stdin_.close(ignored);
       timer_.cancel();
-      retry_.cancel();
       CloseLinks();
       io_.stop();
     });
   }
 
  private:
-  void Listen(const std::string& address, std::uint16_t port) {
-    const tcp::endpoint endpoint(asio::ip::make_address(address), port);
-    acceptor_.open(endpoint.protocol());
-    acceptor_.set_option(tcp::acceptor::reuse_address(true));
-    acceptor_.bind(endpoint);
-    acceptor_.listen();
-    listeners_.push_back({"socket", address, acceptor_.local_endpoint().port()});
-    Accept();
+  void MapPort(const HostOptions& options) {
+    mapped_port_.emplace(io_, options.address, options.port_mapper, vxi11_->mapping(), std::cerr);
+    if (const auto port = mapped_port_->port()) listeners_.push_back({"portmapper", options.address, *port});
   }
 
-  void Accept() {
-    acceptor_.async_accept([this](const asio::error_code& problem, tcp::socket socket) {
-      if (!acceptor_.is_open()) return;
-      if (problem) {  // out of descriptors, most likely: let some links end before the next try
-        retry_.expires_after(std::chrono::milliseconds(100));
-        retry_.async_wait([this](const asio::error_code& stopped) {
-          if (!stopped) Accept();
-        });
-        return;
-      }
-      auto link = std::make_shared<SocketLink>(std::move(socket), *this);
-      std::erase_if(links_, [](const std::weak_ptr<Link>& old) { return old.expired(); });
-      links_.push_back(link);
-      link->Start();
-      Accept();
-    });
+  void TakeLink(tcp::socket socket) {
+    auto link = std::make_shared<SocketLink>(std::move(socket), *this);
+    std::erase_if(links_, [](const std::weak_ptr<Link>& old) { return old.expired(); });
+    links_.push_back(link);
+    link->Start();
   }
 
   void ForEachLink(const std::function<void(const std::shared_ptr<Link>&)>& work) {
@@ -128,12 +130,19 @@ class Host::Impl : public Services {
       if (const auto link = weak.lock()) work(link);
     }
     if (hislip_) hislip_->ForEachLink(work);
+    if (vxi11_) vxi11_->ForEachLink(work);
+  }
+
+  void LocksChanged() {
+    if (hislip_) hislip_->LocksChanged();
+    if (vxi11_) vxi11_->LocksChanged();
   }
 
   void CloseLinks() {
     ForEachLink([](const std::shared_ptr<Link>& link) { link->Close(); });
     links_.clear();
     if (hislip_) hislip_->CloseClients();
+    if (vxi11_) vxi11_->CloseClients();
   }
 
   void ReadStdin() {
@@ -154,12 +163,14 @@ class Host::Impl : public Services {
   asio::io_context io_;
   model::Instrument instrument_;
   FaultPlan faults_;
+  Locks locks_;
   std::vector<Listener> listeners_;
   std::vector<std::weak_ptr<Link>> links_;
-  tcp::acceptor acceptor_;
+  std::optional<Acceptor> acceptor_;
   std::optional<HislipServer> hislip_;
+  std::optional<Vxi11Server> vxi11_;
+  std::optional<MappedPort> mapped_port_;
   asio::steady_timer timer_;
-  asio::steady_timer retry_;
   asio::signal_set signals_;
   asio::posix::stream_descriptor stdin_;
   std::string typed_;

@@ -18,20 +18,24 @@ struct HostOptions {
   std::string address = "127.0.0.1";
   std::optional<std::uint16_t> socket_port = std::uint16_t{0};  // 0 picks a free one
   std::optional<std::uint16_t> hislip_port;                     // nothing: no HiSLIP
+  std::optional<std::uint16_t> vxi11_port;                      // nothing: no VXI-11; of the core channel
+  bool map_port = true;                                         // a port mapper tells VXI-11's port
+  std::optional<std::uint16_t> port_mapper;                     // ours, there; nothing: the system's, else ours on 111
   bool end_on_signals = false;                                  // SIGINT, SIGTERM
   bool end_with_stdin = false;
   std::vector<Fault> faults;
 };
 
 struct Listener {
-  std::string protocol;  // "socket", "hislip"
+  std::string protocol;  // "socket", "hislip", "vxi11", "portmapper"
   std::string address;
   std::uint16_t port = 0;
 };
 
 class Host {
  public:
-  // Listens when it returns. Throws std::system_error when an address or a port cannot be had.
+  // Listens when it returns, and says on standard error when VXI-11's port could not be mapped. Throws
+  // std::system_error when an address or a port cannot be had.
   explicit Host(HostOptions options);
   ~Host();
   Host(const Host&) = delete;

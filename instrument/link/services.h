@@ -4,6 +4,7 @@
 #include <asio/io_context.hpp>
 
 #include "link/fault.h"
+#include "link/locks.h"
 #include "model/instrument.h"
 
 namespace siggen::link {
@@ -22,6 +23,7 @@ class Services {
   virtual asio::io_context& io() = 0;
   virtual model::Instrument& instrument() = 0;
   virtual FaultPlan& faults() = 0;
+  virtual Locks& locks() = 0;
   // After messages were carried out: timers and other links may have to follow.
   virtual void Worked() = 0;
 };

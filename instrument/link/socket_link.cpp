@@ -61,7 +61,8 @@ void SocketLink::Pump() {
 
 void SocketLink::Send(std::vector<scpi::Bytes> answer) {
   const auto fault = services_.faults().Next();
-  outgoing_ = fault ? Distort(fault->kind, std::move(answer)) : std::move(answer);
+  if (fault) answer = Distort(fault->kind, std::move(answer));
+  outgoing_ = std::move(answer);
   writing_ = true;
   if (!fault) return Write(false);
   switch (fault->kind) {

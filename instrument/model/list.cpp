@@ -38,8 +38,8 @@ void Settle(ListSettings& list) {
   if (list.index >= points) list.index = list.start;
 }
 
-void AddValues(Commands& commands, Generator& generator, const std::string& pattern, Quantity quantity, Limits limits,
-               Values values) {
+void AddValues(Commands& commands, Generator& generator, const std::string& pattern, Quantity quantity,
+               const Limits& limits, Values values) {
   commands.Do(pattern, scpi::kAnyNumber, [=, &generator](Call& call) {
     ListSettings& list = generator.now.list(call.suffix());
     list.*values = ReadValues(call, quantity, limits, kMostListPoints);

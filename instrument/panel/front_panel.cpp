@@ -35,14 +35,14 @@ class Canvas {
     cairo_select_font_face(cairo_.get(), kFont, CAIRO_FONT_SLANT_NORMAL, CAIRO_FONT_WEIGHT_NORMAL);
   }
 
-  void Text(double x, double y, double size, Color color, const std::string& text) {
+  void Text(double x, double y, double size, const Color& color, const std::string& text) {
     Set(color);
     cairo_set_font_size(cairo_.get(), size);
     cairo_move_to(cairo_.get(), x, y);
     cairo_show_text(cairo_.get(), text.c_str());
   }
 
-  void TextToLeftOf(double x, double y, double size, Color color, const std::string& text) {
+  void TextToLeftOf(double x, double y, double size, const Color& color, const std::string& text) {
     cairo_set_font_size(cairo_.get(), size);
     cairo_text_extents_t extents;
     cairo_text_extents(cairo_.get(), text.c_str(), &extents);

@@ -1,5 +1,4 @@
 // Exported: resource manager, opening and closing, attributes.
-#include <array>
 #include <string_view>
 
 #include "api.h"
@@ -36,10 +35,7 @@ ViStatus viOpen(ViSession sesn, ViConstRsrc name, ViAccessMode mode, ViUInt32 ti
     if (handle == VI_NULL) return VI_ERROR_ALLOC;
     const Pinned pinned(handle);
     opened.SetHandle(handle);
-    if (!manager.Adopt(handle)) {
-      handles::Close(handle);
-      return VI_ERROR_INV_OBJECT;
-    }
+    if (!manager.Adopt(handle)) return VI_ERROR_INV_OBJECT;
     *vi = handle;
     return (mode & VI_LOAD_CONFIG) != 0 ? VI_WARN_CONFIG_NLOADED : VI_SUCCESS;
   });
@@ -87,38 +83,3 @@ ViStatus viParseRsrcEx(ViSession sesn, ViConstRsrc name, ViPUInt16 intfType, ViP
 ViStatus viParseRsrc(ViSession sesn, ViConstRsrc name, ViPUInt16 intfType, ViPUInt16 intfNum) {
   return viParseRsrcEx(sesn, name, intfType, intfNum, nullptr, nullptr, nullptr);
 }
-
-namespace {
-
-// Balanced brackets, nothing left to escape: enough to tell a wrong expression from one that merely finds nothing.
-bool IsSearchExpression(std::string_view text) {
-  constexpr std::string_view kBrackets = "([{)]}";
-  std::array<int, 3> open{};
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (text[i] == '\\') {
-      if (++i == text.size()) return false;
-      continue;
-    }
-    const std::size_t bracket = kBrackets.find(text[i]);
-    if (bracket == std::string_view::npos) continue;
-    open[bracket % 3] += bracket < 3 ? 1 : -1;
-    if (open[bracket % 3] < 0) return false;
-  }
-  return text.find_first_not_of(' ') != std::string_view::npos && open == std::array<int, 3>{};
-}
-
-}  // namespace
-
-// Instruments on a network are opened by name: nothing here goes out to look for them.
-ViStatus viFindRsrc(ViSession sesn, ViConstString expr, ViPFindList list, ViPUInt32 count, ViChar desc[]) {
-  return On<ResourceManager>(sesn, [&](ResourceManager&) -> ViStatus {
-    if (expr == nullptr || !IsSearchExpression(expr)) return VI_ERROR_INV_EXPR;
-    if (list != nullptr) *list = VI_NULL;
-    if (count != nullptr) *count = 0;
-    if (desc != nullptr) *desc = '\0';
-    return VI_ERROR_RSRC_NFOUND;
-  });
-}
-
-// viFindRsrc gives out no list, so every handle is of another kind.
-ViStatus viFindNext(ViFindList list, ViChar[]) { return Pinned(list) ? VI_ERROR_NSUP_OPER : VI_ERROR_INV_OBJECT; }

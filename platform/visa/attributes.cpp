@@ -42,6 +42,9 @@ bool IsReadOnlyTemplate(ViAttr attribute) {
   }
 }
 
+// The other protocols are those of buses that mark the end of a message.
+bool IsProtocolOfStreams(ViAttrState value) { return value == VI_PROT_NORMAL || value == VI_PROT_4882_STRS; }
+
 bool IsSettingOfManager(ViAttr attribute) {
   return attribute == VI_ATTR_MAX_QUEUE_LENGTH || attribute == VI_ATTR_USER_DATA_32 ||
          attribute == VI_ATTR_USER_DATA_64;
@@ -105,6 +108,12 @@ ViStatus Session::SetAttribute(ViAttr attribute, ViAttrState value) {
     case VI_ATTR_RD_BUF_SIZE:
     case VI_ATTR_WR_BUF_SIZE:
       return VI_ERROR_ATTR_READONLY;
+    case VI_ATTR_IO_PROT:
+      if (resource_.resource_class == "SOCKET" && !IsProtocolOfStreams(value)) return VI_ERROR_NSUP_ATTR_STATE;
+      break;
+    case VI_ATTR_MAX_QUEUE_LENGTH:
+      if (events_ != nullptr && events_->Used()) return VI_ERROR_ATTR_READONLY;
+      break;
     default:
       break;
   }
@@ -113,7 +122,7 @@ ViStatus Session::SetAttribute(ViAttr attribute, ViAttrState value) {
   // Some of these are an exchange with the device.
   const std::lock_guard one_at_a_time(call_);
   interruption_.BeginCall();
-  return transport().SetAttribute(attribute, value);
+  return transport().SetAttribute(attribute, value, settings_.Timeout());
 }
 
 }  // namespace tvr::visa

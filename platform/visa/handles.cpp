@@ -4,7 +4,6 @@
 
 #include <array>
 #include <atomic>
-#include <deque>
 #include <mutex>
 #include <utility>
 
@@ -24,10 +23,14 @@ constexpr Word kGenerations = 0xFFFF;
 constexpr std::size_t kPlacesPerBlock = 64;
 constexpr std::size_t kBlocks = 1024;
 
+constexpr std::uint32_t kNoPlace = 0xFFFFFFFF;
+
 // A cache line each: two sessions share nothing.
 struct alignas(64) Place {
   std::atomic<Word> word{kFirstGeneration << kGenerationShift};
   Object* object = nullptr;
+  // Of a free place. The list is made of the places themselves: freeing one must not need memory.
+  std::uint32_t next_free = kNoPlace;
 };
 
 using Block = std::array<Place, kPlacesPerBlock>;
@@ -37,7 +40,8 @@ struct Table {
   std::mutex guard;  // of what follows
   std::size_t places = 0;
   // First in, first out: a place rests as long as possible.
-  std::deque<std::uint32_t> free_places;
+  std::uint32_t first_free = kNoPlace;
+  std::uint32_t last_free = kNoPlace;
 };
 
 // Never destroyed: a program may still close its sessions while it ends.
@@ -54,6 +58,19 @@ Place* PlaceOf(ViObject handle) {
   return block == nullptr ? nullptr : &(*block)[index % kPlacesPerBlock];
 }
 
+// Both under the table's guard.
+void PushFree(Table& table, std::uint32_t index) {
+  PlaceOf(index)->next_free = kNoPlace;
+  (table.first_free == kNoPlace ? table.first_free : PlaceOf(table.last_free)->next_free) = index;
+  table.last_free = index;
+}
+
+std::uint32_t PopFree(Table& table) {
+  const std::uint32_t index = table.first_free;
+  table.first_free = PlaceOf(index)->next_free;
+  return index;
+}
+
 // The last one out of a closed place takes the object away and frees the place for its next generation.
 void VacateIfLast(Place& place, ViObject handle) {
   Word word = place.word.load(std::memory_order_acquire);
@@ -63,7 +80,7 @@ void VacateIfLast(Place& place, ViObject handle) {
   delete std::exchange(place.object, nullptr);
   Table& table = TheTable();
   const std::lock_guard lock(table.guard);
-  table.free_places.push_back(handle & 0xFFFF);
+  PushFree(table, handle & 0xFFFF);
 }
 
 }  // namespace
@@ -71,18 +88,16 @@ void VacateIfLast(Place& place, ViObject handle) {
 ViObject Add(std::unique_ptr<Object> object) {
   Table& table = TheTable();
   const std::lock_guard lock(table.guard);
-  if (table.free_places.empty()) {
+  if (table.first_free == kNoPlace) {
     const std::size_t block = table.places / kPlacesPerBlock;
     if (block == kBlocks) return VI_NULL;
-    auto fresh = std::make_unique<Block>();
+    table.blocks[block].store(std::make_unique<Block>().release(), std::memory_order_release);
     for (std::size_t i = 0; i < kPlacesPerBlock; ++i) {
-      table.free_places.push_back(static_cast<std::uint32_t>(table.places + i));
+      PushFree(table, static_cast<std::uint32_t>(table.places + i));
     }
-    table.blocks[block].store(fresh.release(), std::memory_order_release);
     table.places += kPlacesPerBlock;
   }
-  const std::uint32_t index = table.free_places.front();
-  table.free_places.pop_front();
+  const std::uint32_t index = PopFree(table);
   Place& place = *PlaceOf(index);
   place.object = object.release();
   // Added to, not overwritten: a stale handle may be on its way in and out at this moment.

@@ -10,8 +10,9 @@ namespace {
 
 // Small answers come with their header in one receive; of large ones this much is copied, the rest is not.
 constexpr std::size_t kBufferSize = 32 * 1024;
-// For exchanges that no caller's timeout is told for: attributes, the release of a lock.
+// For exchanges that a session without a timeout, or one in a hurry, makes all the same.
 constexpr ViUInt32 kOwnPatience = 2000;
+constexpr ViUInt32 kOnTheWay = 50;
 constexpr ViUInt32 kLargestKilobytes = 0xFFFFFFFF;
 constexpr std::size_t kLongestKey = 256;
 
@@ -182,7 +183,6 @@ ViStatus HislipTransport::RemoteLocal(ViUInt16 mode, Deadline& deadline) {
 ViStatus HislipTransport::LockDevice(const std::string& key, ViUInt32 timeout_ms) {
   if (key.size() > kLongestKey) return VI_ERROR_INV_ACCESS_KEY;
   // The device does the waiting; its answer needs a moment more.
-  constexpr ViUInt32 kOnTheWay = 50;
   Deadline deadline(timeout_ms > VI_TMO_INFINITE - kOnTheWay ? VI_TMO_INFINITE : timeout_ms + kOnTheWay);
   const iovec piece = PieceOf(key.data(), key.size());
   AsyncChannel::Answer answer;
@@ -193,15 +193,15 @@ ViStatus HislipTransport::LockDevice(const std::string& key, ViUInt32 timeout_ms
   return answer.control == kFailed ? VI_ERROR_TMO : VI_ERROR_RSRC_LOCKED;
 }
 
-ViStatus HislipTransport::UnlockDevice(bool exclusive) {
-  Deadline deadline(kOwnPatience);
+ViStatus HislipTransport::UnlockDevice(bool exclusive, ViUInt32 timeout_ms) {
+  Deadline deadline(std::min(timeout_ms, kOwnPatience) + kOnTheWay);
   AsyncChannel::Answer answer;
   const ViStatus status = AskAsync({Type::kAsyncLock, kRelease, LastId()}, Type::kAsyncLockResponse, deadline, answer);
   if (status < 0) return Settle(status);
   return answer.control == (exclusive ? kGranted : kReleasedShared) ? VI_SUCCESS : VI_ERROR_SESN_NLOCKED;
 }
 
-ViStatus HislipTransport::DeliverServiceRequests(std::function<void()> sink) {
+ViStatus HislipTransport::DeliverServiceRequests(std::function<void()> sink, ViUInt32 /*timeout_ms*/) {
   return async_->DeliverServiceRequests(std::move(sink));
 }
 
@@ -238,8 +238,8 @@ ViStatus HislipTransport::GetAttribute(ViAttr attribute, void* value) {
   }
 }
 
-ViStatus HislipTransport::SetAttribute(ViAttr attribute, ViAttrState value) {
-  Deadline deadline(kOwnPatience);
+ViStatus HislipTransport::SetAttribute(ViAttr attribute, ViAttrState value, ViUInt32 timeout_ms) {
+  Deadline deadline(timeout_ms);
   const bool on = value == VI_TRUE;
   const bool boolean = value <= VI_TRUE;
   switch (attribute) {

@@ -36,10 +36,10 @@ class HislipTransport final : public Transport {
   ViStatus Trigger(ViUInt16 protocol, Deadline& deadline) override;
   ViStatus RemoteLocal(ViUInt16 mode, Deadline& deadline) override;
   ViStatus LockDevice(const std::string& key, ViUInt32 timeout_ms) override;
-  ViStatus UnlockDevice(bool exclusive) override;
-  ViStatus DeliverServiceRequests(std::function<void()> sink) override;
+  ViStatus UnlockDevice(bool exclusive, ViUInt32 timeout_ms) override;
+  ViStatus DeliverServiceRequests(std::function<void()> sink, ViUInt32 timeout_ms) override;
   ViStatus GetAttribute(ViAttr attribute, void* value) override;
-  ViStatus SetAttribute(ViAttr attribute, ViAttrState value) override;
+  ViStatus SetAttribute(ViAttr attribute, ViAttrState value, ViUInt32 timeout_ms) override;
   void HangUp() override;
 
  private:

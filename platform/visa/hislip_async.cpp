@@ -8,7 +8,8 @@ namespace {
 // An interruption of the session has to be noticed here too, though its descriptor is not waited for.
 constexpr ViUInt32 kSlice = 20;
 
-constexpr ViByte kLockGranted = 1;  // control code of AsyncLockResponse
+constexpr ViByte kLockRelease = 0, kLockRequest = 1;  // control code of AsyncLock
+constexpr ViByte kLockGranted = 1;                    // and of AsyncLockResponse, where it means a release as well
 
 std::size_t IndexOf(Type type) { return static_cast<std::size_t>(type); }
 
@@ -43,11 +44,11 @@ ViStatus AsyncChannel::Connect(const std::string& host, ViUInt16 port, Deadline&
 ViStatus AsyncChannel::Ask(const Question& question, Deadline& deadline, Answer& answer) {
   const Turn turn(*this);
   if (const ViStatus status = Send(question, deadline); status < 0) return status;
-  unsigned& unanswered = unanswered_[IndexOf(question.answer)];
+  const unsigned& unanswered = unanswered_[IndexOf(question.answer)];
   for (;;) {
     Header header;
     if (const ViStatus status = Next(deadline, question.meanwhile, header); status < 0) {
-      ++unanswered;
+      GiveUp(question);
       return status;
     }
     if (unanswered == 0 && header.type == question.answer) {
@@ -58,15 +59,30 @@ ViStatus AsyncChannel::Ask(const Question& question, Deadline& deadline, Answer&
     if (header.type == Type::kError) {
       // In the place of an answer; the oldest question is the one that was refused.
       if (unanswered == 0) return VI_ERROR_IO;
-      --unanswered;
+      TakeUnanswered(question.answer);
       continue;
     }
     if (const ViStatus status = Meet(header, deadline); status < 0) return status;
     if (deadline.Expired()) {
-      ++unanswered;
+      GiveUp(question);
       return VI_ERROR_TMO;
     }
   }
+}
+
+void AsyncChannel::GiveUp(const Question& question) {
+  ++unanswered_[IndexOf(question.answer)];
+  if (question.answer == Type::kAsyncLockResponse) {
+    unanswered_locks_.push_back(question.header.control == kLockRequest);
+  }
+}
+
+bool AsyncChannel::TakeUnanswered(Type answer) {
+  --unanswered_[IndexOf(answer)];
+  if (answer != Type::kAsyncLockResponse) return false;
+  const bool requested = unanswered_locks_.front();
+  unanswered_locks_.pop_front();
+  return requested;
 }
 
 ViStatus AsyncChannel::Send(const Question& question, Deadline& deadline) {
@@ -118,15 +134,13 @@ ViStatus AsyncChannel::Meet(const Header& header, Deadline& deadline) {
       break;
   }
   if (IndexOf(header.type) >= kTypes) return channel_.Refuse(header, deadline);
-  unsigned& unanswered = unanswered_[IndexOf(header.type)];
-  if (unanswered == 0) return VI_SUCCESS;
-  --unanswered;
-  if (header.type == Type::kAsyncLockResponse && header.control == kLockGranted) {
-    // Nobody waits for this lock any more, and nobody would ever release it.
-    ++unanswered;
-    return Send({.header = {Type::kAsyncLock}, .payload = {}, .answer = Type::kAsyncLockResponse}, deadline);
-  }
-  return VI_SUCCESS;
+  if (unanswered_[IndexOf(header.type)] == 0) return VI_SUCCESS;
+  if (!TakeUnanswered(header.type) || header.control != kLockGranted) return VI_SUCCESS;
+  // Nobody waits for this lock any more, and nobody would ever release it.
+  const Header release{Type::kAsyncLock, kLockRelease, last_id_.load(std::memory_order_relaxed)};
+  const Question question{.header = release, .payload = {}, .answer = Type::kAsyncLockResponse};
+  GiveUp(question);
+  return Send(question, deadline);
 }
 
 ViStatus AsyncChannel::AwaitInterruptions(ViUInt32 count, Deadline& deadline) {
@@ -142,7 +156,9 @@ ViStatus AsyncChannel::AwaitInterruptions(ViUInt32 count, Deadline& deadline) {
 
 void AsyncChannel::ForgetUnanswered() {
   const Turn turn(*this);
+  const unsigned locks = unanswered_[IndexOf(Type::kAsyncLockResponse)];
   unanswered_.fill(0);
+  unanswered_[IndexOf(Type::kAsyncLockResponse)] = locks;
 }
 
 ViStatus AsyncChannel::DeliverServiceRequests(std::function<void()> sink) {

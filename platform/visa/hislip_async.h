@@ -6,6 +6,7 @@
 #include <array>
 #include <atomic>
 #include <condition_variable>
+#include <deque>
 #include <functional>
 #include <memory>
 #include <mutex>
@@ -44,10 +45,13 @@ class AsyncChannel : public std::enable_shared_from_this<AsyncChannel> {
   };
   ViStatus Ask(const Question& question, Deadline& deadline, Answer& answer);
 
+  // The id of the last message on the synchronous channel: a lock that nobody wants any more is released as of it.
+  void SetLastId(ViUInt32 id) { last_id_.store(id, std::memory_order_relaxed); }
+
   // How often the device has said here that it was interrupted.
   ViUInt32 Interruptions() const { return interruptions_.load(std::memory_order_acquire); }
   ViStatus AwaitInterruptions(ViUInt32 count, Deadline& deadline);
-  // After a device clear: no answer from before it can come any more.
+  // After a device clear no answer from before it can come any more, but to a request of a lock: those are not cleared.
   void ForgetUnanswered();
 
   // An empty sink stops it; a call of the sink that has begun is not waited for.
@@ -67,6 +71,9 @@ class AsyncChannel : public std::enable_shared_from_this<AsyncChannel> {
   static constexpr std::size_t kTypes = 32;
 
   ViStatus Send(const Question& question, Deadline& deadline);
+  void GiveUp(const Question& question);
+  // The oldest answer of that type that nobody waits for is here. True when it was to a request of a lock.
+  bool TakeUnanswered(Type answer);
   ViStatus Next(Deadline& deadline, const std::function<void()>* meanwhile, Header& header);
   ViStatus ReadNumber(Deadline& deadline, ViUInt64& number);
   // What is no answer to the present question.
@@ -82,7 +89,9 @@ class AsyncChannel : public std::enable_shared_from_this<AsyncChannel> {
   std::atomic<unsigned> callers_{0};
   std::condition_variable calm_;  // no caller is left, or there is something else to do
   std::array<unsigned, kTypes> unanswered_{};
+  std::deque<bool> unanswered_locks_;  // the oldest first: was it a request, or a release?
   std::atomic<ViUInt32> interruptions_{0};
+  std::atomic<ViUInt32> last_id_{kFirstId - kIdStep};
   std::function<void()> sink_;
   unsigned service_requests_ = 0;
   std::atomic<bool> closing_{false};

@@ -218,6 +218,7 @@ ViStatus HislipTransport::SendMessage(Type type, std::span<const iovec> payload,
   const ViStatus status = sync_.Send({type, rmt, next_id_}, payload, deadline, sent);
   if (sync_.Debt() > 0) unfinished_ = true;
   if (status < 0) return status;
+  async_->SetLastId(next_id_);
   next_id_ += kIdStep;
   rmt_delivered_ = false;
   return VI_SUCCESS;
@@ -265,6 +266,7 @@ ViStatus HislipTransport::Trigger(ViUInt16 /*protocol*/, Deadline& deadline) {
 void HislipTransport::Restart() {
   ForgetAnswer();
   next_id_ = kFirstId;
+  async_->SetLastId(LastId());
   delivered_id_ = kFirstId - kIdStep;
   rmt_delivered_ = unfinished_ = read_open_ = late_possible_ = false;
   interruptions_ = async_->Interruptions();

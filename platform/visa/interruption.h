@@ -2,6 +2,7 @@
 #pragma once
 
 #include <atomic>
+#include <mutex>
 
 namespace tvr::visa {
 
@@ -9,7 +10,7 @@ namespace tvr::visa {
 // The good path pays one load at the start of a call.
 class Interruption {
  public:
-  Interruption();
+  Interruption() = default;
   ~Interruption();
   Interruption(const Interruption&) = delete;
   Interruption& operator=(const Interruption&) = delete;
@@ -22,13 +23,15 @@ class Interruption {
       Forget();
   }
   bool Requested() const { return requested_.load(std::memory_order_acquire); }
-  // Readable while a request stands; -1 when the system had none to give, and then slices alone must do.
-  int Descriptor() const { return descriptor_; }
+  // Readable while a request stands; made when a call first waits long. -1 when the system had none to give, and then
+  // slices alone must do.
+  int Descriptor();
 
  private:
   void Forget();
 
-  int descriptor_;
+  std::mutex guard_;
+  int descriptor_ = -1;
   std::atomic<bool> requested_{false};
 };
 

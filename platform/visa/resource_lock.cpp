@@ -3,13 +3,17 @@
 #include <algorithm>
 #include <chrono>
 #include <map>
+#include <random>
 
 namespace tvr::visa {
 namespace {
 
+// A device takes equal keys for one party, whatever process or machine they come from.
 std::string NewKey() {
-  static std::atomic<unsigned> count{0};
-  return "TVR-VISA-" + std::to_string(++count);
+  std::random_device random;
+  std::string key = "TVR-VISA";
+  for (int i = 0; i < 4; ++i) key += '-' + std::to_string(random());
+  return key;
 }
 
 }  // namespace
@@ -78,16 +82,33 @@ ViStatus ResourceLock::LockShared(Holder& holder, ViUInt32 timeout_ms, const std
 
 ViStatus ResourceLock::Unlock(Holder& holder) {
   const std::lock_guard lock(guard_);
-  if (holder.exclusive_ > 0) {
-    if (--holder.exclusive_ == 0) exclusive_owner_ = nullptr;
-  } else if (holder.shared_ > 0) {
-    if (--holder.shared_ == 0) --sharers_;
-  } else {
-    return VI_ERROR_SESN_NLOCKED;
+  return LowerLevel(holder, holder.exclusive_ > 0 ? VI_EXCLUSIVE_LOCK : VI_SHARED_LOCK);
+}
+
+ViStatus ResourceLock::Unlock(Holder& holder, ViAccessMode type) {
+  const std::lock_guard lock(guard_);
+  return LowerLevel(holder, type);
+}
+
+ViStatus ResourceLock::LowerLevel(Holder& holder, ViAccessMode type) {
+  unsigned& levels = type == VI_EXCLUSIVE_LOCK ? holder.exclusive_ : holder.shared_;
+  if (levels == 0) return VI_ERROR_SESN_NLOCKED;
+  if (--levels == 0) {
+    if (type == VI_EXCLUSIVE_LOCK) {
+      exclusive_owner_ = nullptr;
+    } else {
+      --sharers_;
+    }
   }
   Changed();
   if (holder.exclusive_ > 0) return VI_SUCCESS_NESTED_EXCLUSIVE;
   return holder.shared_ > 0 ? VI_SUCCESS_NESTED_SHARED : VI_SUCCESS;
+}
+
+ViAccessMode ResourceLock::LastLevel(const Holder& holder) {
+  const std::lock_guard lock(guard_);
+  if (holder.exclusive_ > 0) return holder.exclusive_ == 1 ? VI_EXCLUSIVE_LOCK : VI_NO_LOCK;
+  return holder.shared_ == 1 ? VI_SHARED_LOCK : VI_NO_LOCK;
 }
 
 void ResourceLock::Withdraw(Holder& holder) {

@@ -29,7 +29,11 @@ class ResourceLock {
   // VI_SUCCESS or the published code for a nested lock. An empty key asks for a new one.
   ViStatus LockExclusive(Holder& holder, ViUInt32 timeout_ms);
   ViStatus LockShared(Holder& holder, ViUInt32 timeout_ms, const std::string& requested_key, std::string& key);
+  // One level less: of the exclusive lock as long as there is one.
   ViStatus Unlock(Holder& holder);
+  ViStatus Unlock(Holder& holder, ViAccessMode type);
+  // The type of the lock of which Unlock would give up the last level; VI_NO_LOCK when it would not.
+  ViAccessMode LastLevel(const Holder& holder);
   // Gives up all that is held and ends a wait: the session is closing.
   void Withdraw(Holder& holder);
 
@@ -41,6 +45,7 @@ class ResourceLock {
  private:
   template <class Free>
   ViStatus WaitUntil(Free free, const Holder& holder, ViUInt32 timeout_ms, std::unique_lock<std::mutex>& lock);
+  ViStatus LowerLevel(Holder& holder, ViAccessMode type);
   bool AdmitsWhenHeld(const Holder& holder);
   void Changed();
 

@@ -4,25 +4,33 @@
 
 namespace tvr::visa {
 
-bool ResourceManager::Adopt(ViSession session) {
+bool ResourceManager::Adopt(ViObject object) {
+  struct Orphan {
+    ~Orphan() {
+      if (handle != VI_NULL) handles::Close(handle);
+    }
+    ViObject handle;
+  } orphan{object};
   const std::lock_guard lock(guard_);
-  if (!closed_) sessions_.insert(session);
-  return !closed_;
+  if (closed_) return false;
+  adopted_.insert(object);
+  orphan.handle = VI_NULL;
+  return true;
 }
 
-void ResourceManager::Forget(ViSession session) {
+void ResourceManager::Forget(ViObject object) {
   const std::lock_guard lock(guard_);
-  sessions_.erase(session);
+  adopted_.erase(object);
 }
 
 void ResourceManager::OnClose() {
-  std::set<ViSession> sessions;
+  std::set<ViObject> adopted;
   {
     const std::lock_guard lock(guard_);
     closed_ = true;
-    sessions = std::exchange(sessions_, {});
+    adopted = std::exchange(adopted_, {});
   }
-  for (const ViSession session : sessions) handles::Close(session);
+  for (const ViObject object : adopted) handles::Close(object);
 }
 
 }  // namespace tvr::visa

@@ -82,6 +82,12 @@ const Interface* FindInterface(std::string_view head) {
   return nullptr;
 }
 
+// Visible characters, and none of those that hold a descriptor together.
+bool IsPlain(std::string_view part) {
+  return std::all_of(part.begin(), part.end(),
+                     [](char c) { return c > ' ' && c <= '~' && c != ':' && c != '[' && c != ']'; });
+}
+
 bool IsClassOf(const Interface& interface, std::string_view text) {
   const std::string upper = Upper(text);
   return !text.empty() &&
@@ -173,6 +179,7 @@ ViStatus ParseResourceName(std::string_view text, ResourceName& name) {
   const bool blank = std::any_of(parts.begin(), parts.end(), [](std::string_view part) { return part.empty(); });
   if (blank || count < interface->fewest_parts || count > interface->most_parts) return VI_ERROR_INV_RSRC_NAME;
   if (interface->type == VI_INTF_TCPIP) return ParseTcpip(parts, name);
+  if (!std::all_of(parts.begin() + 1, parts.end(), IsPlain)) return VI_ERROR_INV_RSRC_NAME;
 
   name.canonical = std::string(interface->keyword) + std::to_string(name.board);
   for (std::size_t i = 1; i < parts.size(); ++i) name.canonical += "::" + std::string(parts[i]);

@@ -1,6 +1,8 @@
 #include "session.h"
 
+#include <algorithm>
 #include <bit>
+#include <utility>
 
 #include "format/read_format.h"
 #include "format/write_format.h"
@@ -29,19 +31,23 @@ ViStatus Session::Open(ViAccessMode mode, ViUInt32 timeout_ms) {
   const bool socket = resource_.interface_type == VI_INTF_TCPIP && resource_.resource_class == "SOCKET";
   // The other kinds of resources are well-formed, and this library has no interface for them.
   if (resource_.interface_type != VI_INTF_TCPIP) return VI_ERROR_INTF_NUM_NCONFIG;
-  if (!socket && !resource_.hislip) return VI_ERROR_LIBRARY_NFOUND;
-  const auto open = socket ? OpenSocket : OpenHislip;
+  const auto open = socket ? OpenSocket : resource_.hislip ? OpenHislip : OpenVxi11;
   if (const ViStatus status = open(resource_, interruption_, deadline, transport); status < 0) return status;
   link_.Attach(std::move(transport));
-  if ((mode & VI_EXCLUSIVE_LOCK) != 0) {
-    if (const ViStatus status = lock_->LockExclusive(holder_, timeout_ms); status < 0) return status;
+  if (this->transport().HasServiceRequests()) {
+    events_ = std::make_shared<EventQueue>(resource_manager_, [this](bool on) { return SwitchServiceRequests(on); });
   }
-  return VI_SUCCESS;
+  if ((mode & VI_EXCLUSIVE_LOCK) == 0) return VI_SUCCESS;
+  // What connecting has left of the time, and a moment at least.
+  std::string no_key;
+  const auto left = static_cast<ViUInt32>(std::max(1, deadline.Remaining()));
+  return Lock(VI_EXCLUSIVE_LOCK, timeout_ms == 0 || deadline.Infinite() ? timeout_ms : left, {}, no_key);
 }
 
 void Session::SetHandle(ViSession handle) {
   handle_ = handle;
   link_.SetSession(handle);
+  if (events_ != nullptr) events_->SetSession(handle);
   if (trace::kOn) [[unlikely]] {
     const std::string text = "open " + resource_.canonical;
     const iovec piece{const_cast<char*>(text.data()), text.size()};
@@ -51,8 +57,10 @@ void Session::SetHandle(ViSession handle) {
 
 void Session::OnClose() {
   closing_.store(true, std::memory_order_relaxed);
-  lock_->Withdraw(holder_);
+  if (events_ != nullptr) events_->Close();
+  // First at the device: who waits in this process for the lock asks there next.
   transport().HangUp();
+  lock_->Withdraw(holder_);
   if (const Pinned manager(resource_manager_); manager) {
     if (auto* const owner = manager.As<ResourceManager>()) owner->Forget(handle_);
   }
@@ -156,9 +164,54 @@ ViStatus Session::BufferedWrite(const ViByte* from, std::size_t count, Deadline&
   return status;
 }
 
+// The lock inside this process comes first and goes last: who has it finds the device free of this process's other
+// sessions.
 ViStatus Session::Lock(ViAccessMode type, ViUInt32 timeout_ms, const std::string& requested_key, std::string& key) {
-  return type == VI_EXCLUSIVE_LOCK ? lock_->LockExclusive(holder_, timeout_ms)
-                                   : lock_->LockShared(holder_, timeout_ms, requested_key, key);
+  Deadline deadline(timeout_ms);
+  deadline.Remaining();  // the time counts from here
+  const bool exclusive = type == VI_EXCLUSIVE_LOCK;
+  const ViStatus status = exclusive ? lock_->LockExclusive(holder_, timeout_ms)
+                                    : lock_->LockShared(holder_, timeout_ms, requested_key, key);
+  if (status < 0 || !transport().HasDeviceLocks()) return status;
+
+  const std::lock_guard one_at_a_time(call_);
+  bool& held = exclusive ? device_exclusive_ : device_shared_;
+  if (held) return status;
+  interruption_.BeginCall();
+  const ViUInt32 left = deadline.Infinite() ? VI_TMO_INFINITE : static_cast<ViUInt32>(deadline.Remaining());
+  const ViStatus refused = transport().LockDevice(exclusive ? "" : key, left);
+  held = refused >= 0;
+  if (held) return status;
+  if (closing_) return VI_ERROR_INV_OBJECT;
+  lock_->Unlock(holder_, type);
+  // Who would not wait has not waited in vain.
+  if (refused == VI_ERROR_TMO && timeout_ms == VI_TMO_IMMEDIATE) return VI_ERROR_RSRC_LOCKED;
+  return refused;
+}
+
+ViStatus Session::Unlock() {
+  if (!transport().HasDeviceLocks()) return lock_->Unlock(holder_);
+  const std::lock_guard one_at_a_time(call_);
+  const ViAccessMode last = lock_->LastLevel(holder_);
+  ViStatus failed = VI_SUCCESS;
+  if (last != VI_NO_LOCK) {
+    bool& held = last == VI_EXCLUSIVE_LOCK ? device_exclusive_ : device_shared_;
+    interruption_.BeginCall();
+    if (std::exchange(held, false)) failed = transport().UnlockDevice(last == VI_EXCLUSIVE_LOCK, settings_.Timeout());
+  }
+  // Also when the device did not do it: a lock that nobody can give up would shut out this process for good.
+  const ViStatus status = lock_->Unlock(holder_);
+  return failed < 0 ? failed : status;
+}
+
+ViStatus Session::SwitchServiceRequests(bool on) {
+  const std::lock_guard one_at_a_time(call_);
+  if (closing_) return VI_ERROR_INV_OBJECT;
+  interruption_.BeginCall();
+  if (!on) return transport().DeliverServiceRequests({}, settings_.Timeout());
+  events_->SetLength(static_cast<ViUInt32>(settings_[Settings::kMaxQueueLength]));
+  // It may still be at work when the session is gone.
+  return transport().DeliverServiceRequests([events = events_] { events->Raise(); }, settings_.Timeout());
 }
 
 }  // namespace tvr::visa

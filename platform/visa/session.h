@@ -1,4 +1,4 @@
-// The two kinds of objects that have handles: resource managers, and sessions with an instrument.
+// The two kinds of sessions: resource managers, and sessions with an instrument.
 #pragma once
 
 #include <visa.h>
@@ -11,32 +11,28 @@
 #include <string>
 
 #include "deadline.h"
+#include "event_queue.h"
 #include "format/args.h"
 #include "format/formatted_input.h"
 #include "format/formatted_output.h"
 #include "handles.h"
 #include "interruption.h"
 #include "link.h"
+#include "managed_object.h"
 #include "resource_lock.h"
 #include "resource_name.h"
 #include "settings.h"
 
 namespace tvr::visa {
 
-// What both kinds have in common for viGetAttribute and viSetAttribute.
-class AttributeOwner : public Object {
- public:
-  virtual ViStatus GetAttribute(ViAttr attribute, void* value) = 0;
-  virtual ViStatus SetAttribute(ViAttr attribute, ViAttrState value) = 0;
-};
-
 class ResourceManager final : public AttributeOwner {
  public:
-  // Closing a resource manager closes the sessions that were opened through it.
+  // Closing a resource manager closes what was opened, found or told through it.
   void OnClose() override;
-  // False: it is closed already.
-  bool Adopt(ViSession session);
-  void Forget(ViSession session);
+  // Closes the object with itself from now on. What it cannot take is closed at once: nobody else would. False: it is
+  // closed already.
+  bool Adopt(ViObject object);
+  void Forget(ViObject object);
 
   ViStatus GetAttribute(ViAttr attribute, void* value) override;
   ViStatus SetAttribute(ViAttr attribute, ViAttrState value) override;
@@ -45,7 +41,7 @@ class ResourceManager final : public AttributeOwner {
   Settings settings_;
   std::mutex guard_;
   bool closed_ = false;
-  std::set<ViSession> sessions_;
+  std::set<ViObject> adopted_;
 };
 
 class Session final : public AttributeOwner {
@@ -77,7 +73,7 @@ class Session final : public AttributeOwner {
   ViStatus BufferedWrite(const ViByte* from, std::size_t count, Deadline& deadline, std::size_t& written);
 
   ViStatus Lock(ViAccessMode type, ViUInt32 timeout_ms, const std::string& requested_key, std::string& key);
-  ViStatus Unlock() { return lock_->Unlock(holder_); }
+  ViStatus Unlock();
   // From any thread: ends the call in progress with VI_ERROR_ABORT.
   void Terminate() { interruption_.Request(); }
 
@@ -85,11 +81,14 @@ class Session final : public AttributeOwner {
   ViStatus SetAttribute(ViAttr attribute, ViAttrState value) override;
 
   ViSession resource_manager() const { return resource_manager_; }
+  // Null when the protocol raises none.
+  EventQueue* events() const { return events_.get(); }
   Transport& transport() const { return link_.transport(); }
   const Settings& settings() const { return settings_; }
 
  private:
   ViStatus FlushWrites(Deadline& deadline);
+  ViStatus SwitchServiceRequests(bool on);
 
   const ViSession resource_manager_;
   const ResourceName resource_;
@@ -99,8 +98,11 @@ class Session final : public AttributeOwner {
   Link link_{settings_};
   std::shared_ptr<ResourceLock> lock_;
   ResourceLock::Holder holder_;
+  std::shared_ptr<EventQueue> events_;
   std::atomic<bool> closing_{false};
   std::mutex call_;  // held for the length of a call: what follows, and the transport's I/O
+  bool device_exclusive_ = false;
+  bool device_shared_ = false;
   FormattedOutput output_{&link_};
   FormattedInput input_{link_};
 };

@@ -12,7 +12,7 @@ bool Octet(ViUInt64 value) { return value <= 0xFF; }
 bool Bits32(ViUInt64 value) { return value <= 0xFFFFFFFFu; }
 bool Bits64(ViUInt64) { return true; }
 bool Positive32(ViUInt64 value) { return value >= 1 && Bits32(value); }
-bool SocketProtocol(ViUInt64 value) { return value == VI_PROT_NORMAL || value == VI_PROT_4882_STRS; }
+bool Protocol(ViUInt64 value) { return value >= VI_PROT_NORMAL && value <= VI_PROT_USBTMC_VENDOR; }
 bool ReadMode(ViUInt64 value) { return value == VI_FLUSH_ON_ACCESS || value == VI_FLUSH_DISABLE; }
 bool WriteMode(ViUInt64 value) { return value == VI_FLUSH_ON_ACCESS || value == VI_FLUSH_WHEN_FULL; }
 
@@ -28,7 +28,7 @@ constexpr std::array<Row, Settings::kCount> kRows{{
     {VI_ATTR_TERMCHAR, 1, '\n', Octet},
     {VI_ATTR_TERMCHAR_EN, 2, VI_FALSE, Bit},
     {VI_ATTR_SEND_END_EN, 2, VI_TRUE, Bit},
-    {VI_ATTR_IO_PROT, 2, VI_PROT_NORMAL, SocketProtocol},
+    {VI_ATTR_IO_PROT, 2, VI_PROT_NORMAL, Protocol},
     {VI_ATTR_DMA_ALLOW_EN, 2, VI_FALSE, Bit},
     {VI_ATTR_RD_BUF_OPER_MODE, 2, VI_FLUSH_DISABLE, ReadMode},
     {VI_ATTR_WR_BUF_OPER_MODE, 2, VI_FLUSH_WHEN_FULL, WriteMode},

@@ -1,5 +1,8 @@
 // TCPIP ... SOCKET: a bare byte stream. It has no END; the termchar alone can end a message.
+#include <tvrvisa.h>
+
 #include <algorithm>
+#include <atomic>
 #include <charconv>
 #include <cstring>
 #include <string_view>
@@ -23,6 +26,8 @@ class SocketTransport final : public Transport {
   ViStatus Connect(Deadline& deadline) { return stream_.Connect(host_, port_, deadline); }
 
   bool CarriesEnd() const override { return false; }
+  bool HasDeviceLocks() const override { return false; }
+  bool HasServiceRequests() const override { return false; }
   ViStatus Read(const ReadRequest& request, Deadline& deadline, std::size_t& received) override;
   ViStatus Write(std::span<iovec> pieces, bool end, Deadline& deadline, std::size_t& sent) override;
   ViStatus Clear(Deadline& deadline) override;
@@ -30,10 +35,11 @@ class SocketTransport final : public Transport {
   ViStatus ReadStatusByte(ViUInt16 protocol, Deadline& deadline, ViUInt16& status_byte) override;
   ViStatus Trigger(ViUInt16 protocol, Deadline& deadline) override;
   ViStatus GetAttribute(ViAttr attribute, void* value) override;
-  ViStatus SetAttribute(ViAttr attribute, ViAttrState value) override;
+  ViStatus SetAttribute(ViAttr attribute, ViAttrState value, ViUInt32 timeout_ms) override;
   void HangUp() override { stream_.HangUp(); }
 
  private:
+  ViStatus Receive(const ReadRequest& request, Deadline& deadline, std::size_t& received);
   ViStatus ReadToTermchar(const ReadRequest& request, Deadline& deadline, std::size_t& received);
   bool TakeAhead(const ReadRequest& request, std::size_t& received);
   ViStatus Send(std::string_view line, Deadline& deadline);
@@ -44,6 +50,8 @@ class SocketTransport final : public Transport {
   // Received, but behind the termchar at which a read ended.
   std::vector<ViByte> ahead_;
   std::size_t ahead_taken_ = 0;
+  bool late_possible_ = false;  // the last read failed, and its answer may still come
+  std::atomic<bool> reconnect_{false};
 };
 
 // Bytes from `begin` up to and including the termchar, or all of them.
@@ -64,6 +72,12 @@ bool SocketTransport::TakeAhead(const ReadRequest& request, std::size_t& receive
 }
 
 ViStatus SocketTransport::Read(const ReadRequest& request, Deadline& deadline, std::size_t& received) {
+  const ViStatus status = Receive(request, deadline, received);
+  late_possible_ = status < 0;
+  return status;
+}
+
+ViStatus SocketTransport::Receive(const ReadRequest& request, Deadline& deadline, std::size_t& received) {
   received = 0;
   if (!ahead_.empty()) {
     if (TakeAhead(request, received)) return VI_SUCCESS_TERM_CHAR;
@@ -93,6 +107,13 @@ ViStatus SocketTransport::ReadToTermchar(const ReadRequest& request, Deadline& d
 }
 
 ViStatus SocketTransport::Write(std::span<iovec> pieces, bool /*end*/, Deadline& deadline, std::size_t& sent) {
+  if (late_possible_ && reconnect_) [[unlikely]] {
+    sent = 0;
+    const ViStatus status = stream_.Reconnect(host_, port_, deadline);
+    if (status < 0) return status == VI_ERROR_RSRC_NFOUND ? VI_ERROR_CONN_LOST : status;
+    DiscardInput();
+    late_possible_ = false;
+  }
   return stream_.Send(pieces, deadline, sent);
 }
 
@@ -141,12 +162,14 @@ ViStatus SocketTransport::GetAttribute(ViAttr attribute, void* value) {
       return PutNumber<ViBoolean>(value, stream_.NoDelay() ? VI_TRUE : VI_FALSE);
     case VI_ATTR_TCPIP_KEEPALIVE:
       return PutNumber<ViBoolean>(value, stream_.KeepAlive() ? VI_TRUE : VI_FALSE);
+    case TVR_ATTR_SOCKET_RECONNECT:
+      return PutNumber<ViBoolean>(value, reconnect_ ? VI_TRUE : VI_FALSE);
     default:
       return VI_ERROR_NSUP_ATTR;
   }
 }
 
-ViStatus SocketTransport::SetAttribute(ViAttr attribute, ViAttrState value) {
+ViStatus SocketTransport::SetAttribute(ViAttr attribute, ViAttrState value, ViUInt32 /*timeout_ms*/) {
   switch (attribute) {
     case VI_ATTR_TCPIP_ADDR:
     case VI_ATTR_TCPIP_HOSTNAME:
@@ -156,6 +179,10 @@ ViStatus SocketTransport::SetAttribute(ViAttr attribute, ViAttrState value) {
       return value > VI_TRUE || !stream_.SetNoDelay(value == VI_TRUE) ? VI_ERROR_NSUP_ATTR_STATE : VI_SUCCESS;
     case VI_ATTR_TCPIP_KEEPALIVE:
       return value > VI_TRUE || !stream_.SetKeepAlive(value == VI_TRUE) ? VI_ERROR_NSUP_ATTR_STATE : VI_SUCCESS;
+    case TVR_ATTR_SOCKET_RECONNECT:
+      if (value > VI_TRUE) return VI_ERROR_NSUP_ATTR_STATE;
+      reconnect_ = value == VI_TRUE;
+      return VI_SUCCESS;
     default:
       return VI_ERROR_NSUP_ATTR;
   }

@@ -27,6 +27,7 @@ constexpr Row kRows[] = {
     {VI_WARN_NSUP_ATTR_STATE, "Valid optional attribute state, not supported here."},
     {VI_WARN_UNKNOWN_STATUS, "The status code is not known to this library."},
     {VI_WARN_NSUP_BUF, "Buffer cannot be set."},
+    {VI_SUCCESS_NCHAIN, "Event handled, no other handler is to be called."},
     {VI_SUCCESS_NESTED_SHARED, "Nested shared lock."},
     {VI_SUCCESS_NESTED_EXCLUSIVE, "Nested exclusive lock."},
     {VI_SUCCESS_SYNC, "Asynchronous call done synchronously."},

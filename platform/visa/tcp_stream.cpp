@@ -79,12 +79,12 @@ ViStatus TcpStream::Connect(const std::string& host, ViUInt16 port, Deadline& de
   ViStatus status = VI_ERROR_RSRC_NFOUND;
   int addresses_left = addresses.Count();
   for (const addrinfo* address = addresses.First(); address != nullptr; address = address->ai_next, --addresses_left) {
-    socket_ = ::socket(address->ai_family, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, IPPROTO_TCP);
+    socket_ = ::socket(address->ai_family, SOCK_STREAM | SOCK_CLOEXEC, IPPROTO_TCP);
     if (socket_ < 0) {
       status = StatusOfConnect(errno);
       continue;
     }
-    SetOption(socket_, IPPROTO_TCP, TCP_NODELAY, true);
+    PrepareConnection();
     int error = ::connect(socket_, address->ai_addr, address->ai_addrlen) == 0 ? 0 : errno;
     if (error == EINPROGRESS || error == EINTR) {
       // A first address that swallows everything must leave time for the second.
@@ -101,18 +101,35 @@ ViStatus TcpStream::Connect(const std::string& host, ViUInt16 port, Deadline& de
         error = errno;
       }
     }
-    if (error == 0) {
-      const timeval slice{0, kSliceMilliseconds * 1000};
-      ::setsockopt(socket_, SOL_SOCKET, SO_RCVTIMEO, &slice, sizeof slice);
-      ::setsockopt(socket_, SOL_SOCKET, SO_SNDTIMEO, &slice, sizeof slice);
-      const int flags = ::fcntl(socket_, F_GETFL);
-      return ::fcntl(socket_, F_SETFL, flags & ~O_NONBLOCK) == 0 ? VI_SUCCESS : VI_ERROR_SYSTEM_ERROR;
-    }
+    if (error == 0) return VI_SUCCESS;
     status = StatusOfConnect(error);
     ::close(socket_);
     socket_ = -1;
   }
   return status;
+}
+
+void TcpStream::Adopt(int socket) {
+  socket_ = socket;
+  PrepareConnection();
+}
+
+void TcpStream::PrepareConnection() {
+  SetOption(socket_, IPPROTO_TCP, TCP_NODELAY, true);
+  const timeval slice{0, kSliceMilliseconds * 1000};
+  ::setsockopt(socket_, SOL_SOCKET, SO_RCVTIMEO, &slice, sizeof slice);
+  ::setsockopt(socket_, SOL_SOCKET, SO_SNDTIMEO, &slice, sizeof slice);
+}
+
+ViStatus TcpStream::Reconnect(const std::string& host, ViUInt16 port, Deadline& deadline) {
+  TcpStream fresh(interruption_);
+  if (const ViStatus status = fresh.Connect(host, port, deadline); status < 0) return status;
+  fresh.SetNoDelay(NoDelay());
+  fresh.SetKeepAlive(KeepAlive());
+  // Under the old number: another thread may be about to hang up.
+  if (::dup3(fresh.socket_, socket_, O_CLOEXEC) < 0) return VI_ERROR_SYSTEM_ERROR;
+  if (hung_up_) HangUp();
+  return VI_SUCCESS;
 }
 
 ViStatus TcpStream::Send(std::span<iovec> pieces, Deadline& deadline, std::size_t& sent) {
@@ -157,6 +174,8 @@ ViStatus TcpStream::Receive(ViByte* into, std::size_t room, std::size_t at_least
                             std::size_t& received) {
   received = 0;
   for (;;) {
+    // A peer that never pauses lets nobody wait, and must not keep an interruption from being felt.
+    if (interruption_.Requested()) return VI_ERROR_ABORT;
     if (deadline.ExpiredAtNextWait()) return VI_ERROR_TMO;
     // With a count that must be met in full the kernel collects it, and wakes nobody for a part of it.
     const int flags =
@@ -165,7 +184,6 @@ ViStatus TcpStream::Receive(ViByte* into, std::size_t room, std::size_t at_least
     if (count > 0) {
       received += static_cast<std::size_t>(count);
       if (received >= at_least) return VI_SUCCESS;
-      if (interruption_.Requested()) return VI_ERROR_ABORT;
     } else if (count == 0) {
       return VI_ERROR_CONN_LOST;
     } else if (const ViStatus status = AfterFailure(POLLIN, deadline); status < 0) {
@@ -205,6 +223,7 @@ ViStatus TcpStream::Wait(short events, Deadline& deadline) {
 }
 
 void TcpStream::HangUp() {
+  hung_up_ = true;
   if (socket_ >= 0) ::shutdown(socket_, SHUT_RDWR);
 }
 
@@ -212,6 +231,13 @@ bool TcpStream::NoDelay() const { return Option(socket_, IPPROTO_TCP, TCP_NODELA
 bool TcpStream::KeepAlive() const { return Option(socket_, SOL_SOCKET, SO_KEEPALIVE); }
 bool TcpStream::SetNoDelay(bool on) { return SetOption(socket_, IPPROTO_TCP, TCP_NODELAY, on); }
 bool TcpStream::SetKeepAlive(bool on) { return SetOption(socket_, SOL_SOCKET, SO_KEEPALIVE, on); }
+
+std::optional<in_addr> TcpStream::OwnIpv4Address() const {
+  sockaddr_storage own{};
+  socklen_t size = sizeof own;
+  if (::getsockname(socket_, reinterpret_cast<sockaddr*>(&own), &size) != 0 || own.ss_family != AF_INET) return {};
+  return reinterpret_cast<const sockaddr_in&>(own).sin_addr;
+}
 
 std::string TcpStream::PeerAddress() const {
   sockaddr_storage peer{};

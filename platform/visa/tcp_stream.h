@@ -1,10 +1,13 @@
 // One TCP connection with deadlines: what every transport of this library stands on.
 #pragma once
 
+#include <netinet/in.h>
 #include <sys/uio.h>
 #include <visa.h>
 
+#include <atomic>
 #include <cstddef>
+#include <optional>
 #include <span>
 #include <string>
 
@@ -26,6 +29,12 @@ class TcpStream {
   // VI_ERROR_RSRC_NFOUND: no such name, refused, or no way there. VI_ERROR_TMO: not decided in time.
   ViStatus Connect(const std::string& host, ViUInt16 port, Deadline& deadline);
 
+  // Goes on with a connection that somebody else made.
+  void Adopt(int socket);
+
+  // The same once more, in place of the connection there is, which stays when this fails. Keeps the options.
+  ViStatus Reconnect(const std::string& host, ViUInt16 port, Deadline& deadline);
+
   // Sends all pieces, in one system call when the kernel takes them. Changes the pieces on the way.
   ViStatus Send(std::span<iovec> pieces, Deadline& deadline, std::size_t& sent);
 
@@ -44,13 +53,19 @@ class TcpStream {
   bool SetKeepAlive(bool on);
   // The peer's address in digits.
   std::string PeerAddress() const;
+  // This side's address; nothing when the connection is no IPv4.
+  std::optional<in_addr> OwnIpv4Address() const;
+  // To wait for it together with others.
+  int Descriptor() const { return socket_; }
 
  private:
+  void PrepareConnection();
   ViStatus Wait(short events, Deadline& deadline);
   ViStatus AfterFailure(short events, Deadline& deadline);
 
   Interruption& interruption_;
   int socket_ = -1;
+  std::atomic<bool> hung_up_{false};
 };
 
 }  // namespace tvr::visa

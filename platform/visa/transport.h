@@ -53,18 +53,27 @@ class Transport {
   virtual ViStatus Trigger(ViUInt16 protocol, Deadline& deadline) = 0;
   virtual ViStatus RemoteLocal(ViUInt16 /*mode*/, Deadline& /*deadline*/) { return VI_ERROR_NSUP_OPER; }
 
-  // Locks at the device. A protocol that has none answers VI_SUCCESS: the locks inside this process stand by
-  // themselves. An empty key asks for the exclusive lock. Called for the outermost level only; nesting is counted by
-  // the session.
+  // False: the protocol has no locks, those inside this process stand by themselves, and the two calls below are never
+  // made.
+  virtual bool HasDeviceLocks() const { return true; }
+  // Locks at the device. An empty key asks for the exclusive lock. Called for the outermost level only; nesting is
+  // counted by the session. The exclusive lock may be asked for on top of the shared one, and goes first.
   virtual ViStatus LockDevice(const std::string& /*key*/, ViUInt32 /*timeout_ms*/) { return VI_SUCCESS; }
-  virtual ViStatus UnlockDevice(bool /*exclusive*/) { return VI_SUCCESS; }
+  virtual ViStatus UnlockDevice(bool /*exclusive*/, ViUInt32 /*timeout_ms*/) { return VI_SUCCESS; }
 
-  // From now on `sink` is called at each service request, from a thread of the transport; an empty one stops it.
-  virtual ViStatus DeliverServiceRequests(std::function<void()> /*sink*/) { return VI_ERROR_INV_EVENT; }
+  // False: the protocol knows no service requests, and the call below is never made.
+  virtual bool HasServiceRequests() const { return true; }
+  // From now on `sink` is called at each service request, from a thread of the transport; an empty one stops it. A call
+  // of the sink that has begun is not waited for, here and when the transport is destroyed in that very call: a sink
+  // may itself make calls on the session, which wait for the one that is going on.
+  virtual ViStatus DeliverServiceRequests(std::function<void()> /*sink*/, ViUInt32 /*timeout_ms*/) {
+    return VI_ERROR_INV_EVENT;
+  }
 
   // Attributes of this protocol alone; VI_ERROR_NSUP_ATTR for all others. `value` is the caller's, of published width.
   virtual ViStatus GetAttribute(ViAttr attribute, void* value) = 0;
-  virtual ViStatus SetAttribute(ViAttr attribute, ViAttrState value) = 0;
+  // Of some it is an exchange with the device.
+  virtual ViStatus SetAttribute(ViAttr attribute, ViAttrState value, ViUInt32 timeout_ms) = 0;
 
   // From any thread, when the session is being closed: calls that wait end soon, and later ones fail.
   virtual void HangUp() = 0;
@@ -75,5 +84,7 @@ ViStatus OpenSocket(const ResourceName& resource, Interruption& interruption, De
                     std::unique_ptr<Transport>& opened);
 ViStatus OpenHislip(const ResourceName& resource, Interruption& interruption, Deadline& deadline,
                     std::unique_ptr<Transport>& opened);
+ViStatus OpenVxi11(const ResourceName& resource, Interruption& interruption, Deadline& deadline,
+                   std::unique_ptr<Transport>& opened);
 
 }  // namespace tvr::visa

@@ -11,6 +11,8 @@ using namespace tvr::operation;
 
 namespace {
 
+constexpr char kThreeTexts[] = "First, Second, Third";
+
 // A text that came with quotes of its own is not quoted twice.
 std::string QuoteArgument(std::string_view text) {
   return std::string("\"").append(tvr::TrimString(text, "\" ")).append("\"");
@@ -20,6 +22,8 @@ ViStatus WriteList(const tvr::Operation& operation, ViSession vi, ViConstString 
   tvr::CallFrame call(vi);
   if (!call.ok()) return call.status();
   if (tvr::SessionOf(vi).GetSimulate()) return VI_SUCCESS;
+  const ViStatus status = tvr::CheckNullParameters(vi, operation.function, "List", {list});
+  if (status < 0) return status;
   return tvr::WriteAndCheck(vi, operation.write, QuoteList(list).c_str());
 }
 
@@ -52,6 +56,9 @@ ViStatus KVTD481X2C_SetStaticLanConfiguration(ViSession Vi, ViConstString First,
   tvr::CallFrame call(Vi);
   if (!call.ok()) return call.status();
   if (tvr::SessionOf(Vi).GetSimulate()) return VI_SUCCESS;
+  const ViStatus status =
+      tvr::CheckNullParameters(Vi, kSetStaticLanConfiguration.function, kThreeTexts, {First, Second, Third});
+  if (status < 0) return status;
   std::string command = ":SYST:COMM:LAN:CONF " + QuoteArgument(First);
   if (*Second != '\0') {
     command.append(",").append(QuoteArgument(Second));
@@ -64,6 +71,8 @@ ViStatus KVTD481X2C_ConfigureDns(ViSession Vi, ViConstString First, ViConstStrin
   tvr::CallFrame call(Vi);
   if (!call.ok()) return call.status();
   if (tvr::SessionOf(Vi).GetSimulate()) return VI_SUCCESS;
+  const ViStatus status = tvr::CheckNullParameters(Vi, kConfigureDns.function, kThreeTexts, {First, Second, Third});
+  if (status < 0) return status;
   return tvr::WriteAndCheck(Vi, kConfigureDns.write, QuoteArgument(First).c_str(), QuoteArgument(Second).c_str(),
                             QuoteArgument(Third).c_str());
 }

@@ -10,6 +10,21 @@ import project
 WARNINGS = ["-Wall", "-Wextra", "-Wpedantic", "-Wconversion", "-Wshadow", "-Wundef", "-Werror"]
 FOLDERS = [word for folder in project.HEADER_FOLDERS for word in ("-I", str(folder))]
 
+# A parameter that is missing, or that is none of the function's, is a warning too.
+DOXYGEN = """
+INPUT = {header}
+INCLUDE_PATH = {include}
+MACRO_EXPANSION = YES
+EXPAND_ONLY_PREDEF = YES
+PREDEFINED = KVTD481X2C_API= _VI_FUNC=
+OUTPUT_DIRECTORY = {output}
+GENERATE_HTML = NO
+GENERATE_LATEX = NO
+GENERATE_XML = YES
+QUIET = YES
+WARN_AS_ERROR = FAIL_ON_WARNINGS
+"""
+
 
 class PublicHeader(unittest.TestCase):
     def test_the_committed_header_is_what_the_rows_print(self):
@@ -43,6 +58,18 @@ class PublicHeader(unittest.TestCase):
 
     def test_it_compiles_alone_and_twice_in_cpp(self):
         self.check(["g++", project.fact("clangxx") or "clang++"], "c++", ["c++11", "c++17", "c++20"], [])
+
+    def test_doxygen_reads_it_without_a_warning(self):
+        if not shutil.which("doxygen"):
+            self.skipTest("no doxygen on this machine")
+        with tempfile.TemporaryDirectory() as folder:
+            settings = pathlib.Path(folder, "Doxyfile")
+            settings.write_text(DOXYGEN.format(header=project.SOURCE / "inc" / "KVTD481X2C.h",
+                                               include=project.HEADER_FOLDERS[1], output=folder), encoding="utf-8")
+            status, said = project.run("doxygen", settings)
+            self.assertEqual((0, ""), (status, said))
+            read = pathlib.Path(folder, "xml", "index.xml").read_text(encoding="utf-8")
+            self.assertIn("<name>KVTD481X2C_InitWithOptions</name>", read)
 
 
 if __name__ == "__main__":

@@ -1,9 +1,13 @@
 // Lines with nothing in them, where a number is due: none may pass for a value.
+//
+// A raw socket shows no end of an answer but the line feed, which is a blank to a number: so the number is waited for.
 
 #include "DriverDialogue.h"
 
 namespace kvtd::test {
 namespace {
+
+ViStatus NoNumber() { return ChosenLink() == LinkKind::Socket ? kVisaTimeout : kVisaInvalidFormat; }
 
 class EmptyAnswers : public DriverDialogue {
  protected:
@@ -17,7 +21,7 @@ TEST_F(EmptyAnswers, ARealAttributeIsNotRead) {
   Sent(":FREQ:MULT?\n");
   Answer("\n");
   ViReal64 value = 7.5;
-  EXPECT_STATUS(kVisaTimeout, KVTD481X2C_GetFrequencyMultiplier(vi, &value));
+  EXPECT_STATUS(NoNumber(), KVTD481X2C_GetFrequencyMultiplier(vi, &value));
   EXPECT_EQ(7.5, value);
 }
 
@@ -25,7 +29,7 @@ TEST_F(EmptyAnswers, AnIntegerAttributeIsNotRead) {
   Sent(":POW:DAC?\n");
   Answer(" \r\n");
   ViInt32 value = 77;
-  EXPECT_STATUS(kVisaTimeout, KVTD481X2C_GetPowerDACLevel(vi, &value));
+  EXPECT_STATUS(NoNumber(), KVTD481X2C_GetPowerDACLevel(vi, &value));
   EXPECT_EQ(77, value);
 }
 
@@ -34,7 +38,7 @@ TEST_F(EmptyAnswers, AStatusRegisterThatDoesNotAnswerIsNoGoodStatus) {
   Script("> :FREQ:MULT 2.5 HZ");
   Sent("*ESR?\n");
   Answer("\n");
-  EXPECT_STATUS(kVisaTimeout, KVTD481X2C_SetFrequencyMultiplier(vi, 2.5));
+  EXPECT_STATUS(NoNumber(), KVTD481X2C_SetFrequencyMultiplier(vi, 2.5));
 }
 
 TEST_F(EmptyAnswers, ASelfTestWithoutResultIsNeitherPassedNorFailed) {
@@ -42,7 +46,7 @@ TEST_F(EmptyAnswers, ASelfTestWithoutResultIsNeitherPassedNorFailed) {
   Answer("\n");
   ViInt16 result = 7;
   GuardedText<256> message;
-  EXPECT_STATUS(kVisaTimeout, KVTD481X2C_self_test(vi, &result, message.data()));
+  EXPECT_STATUS(NoNumber(), KVTD481X2C_self_test(vi, &result, message.data()));
   EXPECT_EQ(7, result);
 }
 
@@ -50,7 +54,7 @@ TEST_F(EmptyAnswers, AMeasuredDepthIsNotInvented) {
   Sent(":MEAS:AM:DEPT?\n");
   Answer("\n");
   ViReal64 depth = 7.5;
-  EXPECT_STATUS(kVisaTimeout, KVTD481X2C_MeasureAMDepth(vi, &depth));
+  EXPECT_STATUS(NoNumber(), KVTD481X2C_MeasureAMDepth(vi, &depth));
   EXPECT_EQ(7.5, depth);
 }
 

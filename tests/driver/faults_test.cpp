@@ -41,6 +41,8 @@ class BrokenLink : public testing::Test {
     instrument.AnswerAlways(":SYST:COMM:LAN:HOST?", "generator");
   }
 
+  void SetUp() override { ONLY_OVER_THE_SOCKET("the faulty link counts the bytes of a raw socket"); }
+
   ViStatus Open(const char* options = "") {
     std::string resource = link.ResourceName();
     return KVTD481X2C_InitWithOptions(resource.data(), VI_TRUE, VI_FALSE, options, &vi);

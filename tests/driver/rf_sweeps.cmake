@@ -4,3 +4,4 @@ kvtd_test(driver_sweeps_test
           rf/settling_test.cpp
   LIBS kvtd_attribute_cases KVTD::KVTD481X2C
   LABELS driver)
+kvtd_over_further_links(driver_sweeps_test LABELS driver)

@@ -26,6 +26,10 @@ class Client {
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     connected_ = ::connect(socket_, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
   }
+  struct Accepted {
+    int socket;
+  };
+  explicit Client(Accepted accepted) : socket_(accepted.socket), connected_(accepted.socket >= 0) {}
   ~Client() { ::close(socket_); }
   Client(const Client&) = delete;
   Client& operator=(const Client&) = delete;

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "client.h"
+#include "wire.h"
 
 namespace siggen {
 
@@ -24,44 +24,11 @@ inline std::string Frame(std::string_view header, std::string_view payload = {})
   return bytes + std::string(payload);
 }
 
-inline std::string Readable(std::string_view bytes) {
-  std::string text;
-  for (const char c : bytes) {
-    char shown[8];
-    std::snprintf(shown, sizeof shown, c >= ' ' && c <= '~' ? "%c" : "\\x%02X", static_cast<unsigned char>(c));
-    text += shown;
-  }
-  return text;
+// The payload of a message whose header is not what matters.
+inline std::string ReceiveText(Wire& connection) {
+  const std::string header = connection.ReceiveBytes(16);
+  return header.size() == 16 ? connection.ReceiveBytes(static_cast<unsigned char>(header[15])) : "";
 }
-
-// A connection of which exactly as many bytes are taken as are asked for.
-class Wire {
- public:
-  explicit Wire(std::uint16_t port) : client_(port) {}
-
-  void Send(std::string_view bytes) { client_.Send(bytes); }
-  std::string ReceiveBytes(std::size_t count) {
-    if (ahead_.size() < count) ahead_ += client_.ReceiveBytes(count - ahead_.size());
-    std::string bytes = ahead_.substr(0, count);
-    ahead_.erase(0, bytes.size());
-    return bytes;
-  }
-  // The payload of a message whose header is not what matters.
-  std::string ReceiveText() {
-    const std::string header = ReceiveBytes(16);
-    return header.size() == 16 ? ReceiveBytes(static_cast<unsigned char>(header[15])) : "";
-  }
-  void EndSending() { client_.EndSending(); }
-  int WaitForEnd() { return client_.WaitForEnd(); }
-
- private:
-  Client client_;
-  std::string ahead_;
-};
-
-// A macro for the sake of the line numbers.
-#define EXPECT_HEARD(frame, connection) \
-  EXPECT_EQ(Readable(frame), Readable((connection).ReceiveBytes(std::string(frame).size())))
 
 // Both connections, greeted: what each message of that looks like is a test of its own.
 class HislipClient {

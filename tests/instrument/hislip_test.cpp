@@ -14,7 +14,7 @@ class Hislip : public ::testing::Test {
   }
   void ExpectErrorQueue(std::string_view frame_of_question, std::string_view answer) {
     client_.sync.Send(frame_of_question);
-    EXPECT_EQ(answer, client_.sync.ReceiveText());
+    EXPECT_EQ(answer, ReceiveText(client_.sync));
   }
 
   LiveInstrument instrument_{HislipOnly()};

@@ -67,9 +67,9 @@ class Program {
   std::FILE* stdout_ = nullptr;
 };
 
-std::uint16_t PortIn(const std::string& line) {
+std::uint16_t PortIn(const std::string& line, const std::string& listener = "socket") {
   unsigned port = 0;
-  EXPECT_EQ(1, std::sscanf(line.c_str(), "socket 127.0.0.1:%u\n", &port)) << line;
+  EXPECT_EQ(1, std::sscanf(line.c_str(), (listener + " 127.0.0.1:%u\n").c_str(), &port)) << line;
   return static_cast<std::uint16_t>(port);
 }
 
@@ -112,6 +112,29 @@ TEST(Program, TakesFaultsFromTheCommandLineAndFromTheBench) {
   std::string tripped;
   for (tries = 0; tripped.empty() && tries < kTries; ++tries) tripped = Client(port).Ask(":POW:PROT:TRIP?");
   EXPECT_EQ("1", tripped);
+}
+
+TEST(Program, TellsThePortsOfVxi11AndOfItsPortMapper) {
+  Program program({"--socket", "0", "--vxi11", "0", "--portmapper", "0", "--exit-with-stdin"});
+  EXPECT_NE(0, PortIn(program.Line()));
+  EXPECT_NE(0, PortIn(program.Line(), "vxi11"));
+  EXPECT_NE(0, PortIn(program.Line(), "portmapper"));
+  program.CloseStdin();
+  EXPECT_EQ(0, program.Wait());
+}
+
+TEST(Program, MapsNoPortWhenToldSo) {
+  Program program({"--socket", "0", "--vxi11", "0", "--portmapper", "off", "--exit-with-stdin"});
+  EXPECT_NE(0, PortIn(program.Line()));
+  EXPECT_NE(0, PortIn(program.Line(), "vxi11"));
+  program.CloseStdin();
+  EXPECT_EQ("", program.Line());
+  EXPECT_EQ(0, program.Wait());
+}
+
+TEST(Program, RefusesAPortMapperThatIsNone) {
+  Program program({"--portmapper", "65536"});
+  EXPECT_NE(0, program.Wait());
 }
 
 TEST(Program, RefusesAModelThatDoesNotExist) {

@@ -42,6 +42,7 @@ inline constexpr ViStatus kIoError = Status(0xBFFA4214U);
 // Those of VISA that pass through the driver.
 inline constexpr ViStatus kVisaNoSession = Status(0xBFFF000EU);
 inline constexpr ViStatus kVisaTimeout = Status(0xBFFF0015U);
+inline constexpr ViStatus kVisaInvalidFormat = Status(0xBFFF003FU);
 inline constexpr ViStatus kVisaConnectionLost = Status(0xBFFF00A6U);
 
 inline constexpr std::string_view kInstrumentErrorText =

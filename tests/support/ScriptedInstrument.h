@@ -13,7 +13,8 @@ namespace kvtd::test {
 
 class ScriptedInstrument : public Dialogue {
  public:
-  explicit ScriptedInstrument(Family family = Family::V4) : link_(MakeSocketLink(*this, family)) {}
+  explicit ScriptedInstrument(Family family = Family::V4, LinkKind kind = ChosenLink())
+      : link_(MakeLink(kind, *this, family)) {}
 
   std::string ResourceName() const { return link_->ResourceName(); }
   std::uint16_t port() const { return link_->port(); }

@@ -136,6 +136,17 @@ bool WaitWritable(int descriptor, const Alarm* alarm, Milliseconds timeout) {
   return Wait(descriptor, POLLOUT, alarm, timeout);
 }
 
+std::optional<std::size_t> WaitAnyReadable(const std::array<int, 2>& descriptors, const Alarm* alarm) {
+  std::array<pollfd, 3> waits{{{descriptors[0], POLLIN, 0},
+                               {descriptors[1], POLLIN, 0},
+                               {alarm != nullptr ? alarm->descriptor() : -1, POLLIN, 0}}};
+  while (::poll(waits.data(), waits.size(), -1) < 0) {
+    if (errno != EINTR) ThrowErrno("poll");
+  }
+  if (waits[2].revents != 0) return std::nullopt;
+  return waits[0].revents != 0 ? 0 : 1;
+}
+
 bool SendAll(const Descriptor& socket, std::string_view bytes, const Alarm* alarm) {
   while (!bytes.empty()) {
     const ssize_t sent = ::send(socket.get(), bytes.data(), bytes.size(), MSG_NOSIGNAL);
@@ -169,6 +180,19 @@ std::string ReceiveUntil(const Descriptor& socket, char delimiter, Milliseconds 
     if (::recv(socket.get(), &byte, 1, 0) != 1) break;
     bytes += byte;
   }
+  return bytes;
+}
+
+std::string ReceiveExactly(const Descriptor& socket, std::size_t count, const Alarm* alarm) {
+  std::string bytes(count, '\0');
+  std::size_t received = 0;
+  while (received < count && WaitReadable(socket.get(), alarm, kPatience)) {
+    const ssize_t got = ::recv(socket.get(), bytes.data() + received, count - received, 0);
+    if (got < 0 && (errno == EAGAIN || errno == EINTR)) continue;
+    if (got <= 0) break;
+    received += static_cast<std::size_t>(got);
+  }
+  bytes.resize(received);
   return bytes;
 }
 

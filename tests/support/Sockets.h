@@ -3,6 +3,7 @@
 #ifndef KVTD_TESTS_SUPPORT_SOCKETS_H
 #define KVTD_TESTS_SUPPORT_SOCKETS_H
 
+#include <array>
 #include <chrono>
 #include <cstdint>
 #include <optional>
@@ -71,6 +72,8 @@ std::uint16_t UnusedPort();
 // Waits until the descriptor can be read (or written), the alarm rings or the time is over; true for the first.
 bool WaitReadable(int descriptor, const Alarm* alarm, Milliseconds timeout);
 bool WaitWritable(int descriptor, const Alarm* alarm, Milliseconds timeout);
+// Waits until one of two can be read, and tells which; nothing when the alarm rings.
+std::optional<std::size_t> WaitAnyReadable(const std::array<int, 2>& descriptors, const Alarm* alarm);
 
 // Sends all bytes; false when the other side is gone, the alarm rang or patience ended.
 bool SendAll(const Descriptor& socket, std::string_view bytes, const Alarm* alarm = nullptr);
@@ -80,6 +83,9 @@ std::optional<std::string> ReceiveSome(const Descriptor& socket, Milliseconds ti
 
 // Reads up to and including the delimiter; what had arrived until then when the stream or patience ends.
 std::string ReceiveUntil(const Descriptor& socket, char delimiter, Milliseconds timeout = kPatience);
+
+// So many bytes; fewer when the stream ends, the alarm rings or patience with it ends.
+std::string ReceiveExactly(const Descriptor& socket, std::size_t count, const Alarm* alarm = nullptr);
 
 // No further bytes to the other side, which still may send.
 void HalfClose(const Descriptor& socket);

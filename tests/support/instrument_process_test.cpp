@@ -29,10 +29,11 @@ class InstrumentProcessTest : public testing::Test {
 
 TEST_F(InstrumentProcessTest, TellsThePortsOfTheListenersNamed) {
   InstrumentProcess instrument(
-      Program("echo hislip 127.0.0.1:4880\necho vxi11 127.0.0.1:111\necho socket 127.0.0.1:5025\ncat\n"), {},
-      {"socket", "hislip"});
+      Program("echo hislip 127.0.0.1:4880\necho vxi11 127.0.0.1:1024\necho socket 127.0.0.1:5025\ncat\n"), {},
+      {"socket", "hislip", "vxi11"});
   EXPECT_EQ(5025, instrument.port());
   EXPECT_EQ(4880, instrument.port("hislip"));
+  EXPECT_EQ(1024, instrument.port("vxi11"));
   EXPECT_EQ("TCPIP0::127.0.0.1::5025::SOCKET", instrument.SocketResource());
 }
 

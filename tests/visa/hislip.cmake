@@ -3,11 +3,11 @@ if(TARGET kvtd_test_support)
   add_library(visa_hislip_peer STATIC hislip_peer.cpp $<TARGET_OBJECTS:tvrvisa_objects>)
   kvtd_defaults(visa_hislip_peer)
   target_include_directories(visa_hislip_peer PUBLIC ${PROJECT_SOURCE_DIR}/platform/visa)
-  target_link_libraries(visa_hislip_peer PUBLIC kvtd_test_support GTest::gmock)
+  target_link_libraries(visa_hislip_peer PUBLIC kvtd_test_support PkgConfig::TIRPC GTest::gmock)
 
   kvtd_test(visa_hislip_test
     SOURCES hislip_open_test.cpp hislip_data_test.cpp hislip_answer_test.cpp hislip_control_test.cpp
-            hislip_hostile_test.cpp
+            hislip_events_test.cpp hislip_hostile_test.cpp hislip_locks_test.cpp hislip_session_test.cpp
     LIBS visa_hislip_peer
     LABELS visa hislip)
 

@@ -65,7 +65,7 @@ TEST_F(HislipControl, AMessageThatWasGivenUpIsTakenBackByTheNextWrite) {
 TEST_F(HislipControl, OverlapIsSwitchedByADeviceClear) {
   peer_.Says(kAsync, Frame("HS 17 00 00000000 0000000000000000"));
   peer_.Says(kSync, Frame("HS 09 01 00000000 0000000000000000"));
-  EXPECT_EQ(VI_SUCCESS, link_->SetAttribute(VI_ATTR_TCPIP_HISLIP_OVERLAP_EN, VI_TRUE));
+  EXPECT_EQ(VI_SUCCESS, link_->SetAttribute(VI_ATTR_TCPIP_HISLIP_OVERLAP_EN, VI_TRUE, 2000));
   peer_.Hears(kAsync, Frame("HS 13 00 00000000 0000000000000000"));
   peer_.Hears(kSync, Frame("HS 08 01 00000000 0000000000000000"));
   ViBoolean overlap = VI_FALSE;
@@ -76,7 +76,14 @@ TEST_F(HislipControl, OverlapIsSwitchedByADeviceClear) {
 TEST_F(HislipControl, ADeviceWithoutOverlapSaysSo) {
   peer_.Says(kAsync, Frame("HS 17 00 00000000 0000000000000000"));
   peer_.Says(kSync, Frame("HS 09 00 00000000 0000000000000000"));
-  EXPECT_EQ(VI_ERROR_NSUP_ATTR_STATE, link_->SetAttribute(VI_ATTR_TCPIP_HISLIP_OVERLAP_EN, VI_TRUE));
+  EXPECT_EQ(VI_ERROR_NSUP_ATTR_STATE, link_->SetAttribute(VI_ATTR_TCPIP_HISLIP_OVERLAP_EN, VI_TRUE, 2000));
+}
+
+TEST_F(HislipControl, AnAttributeThatIsAnExchangeTakesNoLongerThanTheTimeout) {
+  const Stopwatch watch;
+  EXPECT_EQ(VI_ERROR_TMO, link_->SetAttribute(VI_ATTR_TCPIP_HISLIP_OVERLAP_EN, VI_TRUE, 30));
+  EXPECT_GE(watch.Milliseconds(), 30);
+  EXPECT_LT(watch.Milliseconds(), 130);
 }
 
 TEST_F(HislipControl, AStatusQueryTellsTheLastMessageAndTheDelivery) {
@@ -148,7 +155,7 @@ TEST_F(HislipControl, LocksAreAskedForByKeyAndTime) {
   EXPECT_EQ(VI_SUCCESS, link_->LockDevice("bench", 0));
   peer_.Hears(kAsync, Frame("HS 04 01 00000000 0000000000000005", "bench"));
   peer_.Says(kAsync, Frame("HS 05 02 00000000 0000000000000000"));
-  EXPECT_EQ(VI_SUCCESS, link_->UnlockDevice(false));
+  EXPECT_EQ(VI_SUCCESS, link_->UnlockDevice(false, 2000));
   peer_.Hears(kAsync, Frame("HS 04 00 FFFFFEFE 0000000000000000"));
 }
 
@@ -158,7 +165,7 @@ TEST_F(HislipControl, ALockThatIsNotHadIsATimeoutOrAnError) {
   peer_.Says(kAsync, Frame("HS 05 03 00000000 0000000000000000"));
   EXPECT_EQ(VI_ERROR_RSRC_LOCKED, link_->LockDevice("", 10));
   peer_.Says(kAsync, Frame("HS 05 03 00000000 0000000000000000"));
-  EXPECT_EQ(VI_ERROR_SESN_NLOCKED, link_->UnlockDevice(true));
+  EXPECT_EQ(VI_ERROR_SESN_NLOCKED, link_->UnlockDevice(true, 2000));
 }
 
 TEST_F(HislipControl, ALockThatIsGrantedTooLateIsGivenBack) {
@@ -170,15 +177,53 @@ TEST_F(HislipControl, ALockThatIsGrantedTooLateIsGivenBack) {
   peer_.Says(kAsync, Frame("HS 16 00 00000000 0000000000000000"));
   StatusByte();
   peer_.Hears(kAsync, Frame("HS 15 00 FFFFFEFE 0000000000000000"));
-  peer_.Hears(kAsync, Frame("HS 04 00 00000000 0000000000000000"));
+  peer_.Hears(kAsync, Frame("HS 04 00 FFFFFEFE 0000000000000000"));
+}
+
+TEST_F(HislipControl, ALateLockIsGivenBackAsOfTheLastMessage) {
+  EXPECT_EQ(VI_ERROR_TMO, link_->LockDevice("", 20));
+  EXPECT_EQ(VI_SUCCESS, Write("A"));
+  EXPECT_EQ(VI_SUCCESS, Write("B"));
+  peer_.Says(kAsync, Frame("HS 05 01 00000000 0000000000000000") + Frame("HS 16 00 00000000 0000000000000000"));
+  StatusByte();
+  peer_.Hears(kAsync, Frame("HS 04 01 00000014 0000000000000000") + Frame("HS 15 00 FFFFFF02 0000000000000000") +
+                          Frame("HS 04 00 FFFFFF02 0000000000000000"));
+  // The answer to that, and the lock that is wanted.
+  peer_.Says(kAsync, Frame("HS 05 01 00000000 0000000000000000") + Frame("HS 05 01 00000000 0000000000000000"));
+  EXPECT_EQ(VI_SUCCESS, link_->LockDevice("", 1500));
+  peer_.Hears(kAsync, Frame("HS 04 01 000005DC 0000000000000000"));
+  peer_.HearsNothingMore(kAsync);
+}
+
+TEST_F(HislipControl, AReleaseThatIsAnsweredTooLateIsNotTakenForALock) {
+  peer_.Says(kAsync, Frame("HS 05 01 00000000 0000000000000000"));
+  EXPECT_EQ(VI_SUCCESS, link_->LockDevice("", 1500));
+  EXPECT_EQ(VI_ERROR_TMO, link_->UnlockDevice(true, 10));
+  peer_.Says(kAsync, Frame("HS 05 01 00000000 0000000000000000") + Frame("HS 05 01 00000000 0000000000000000"));
+  EXPECT_EQ(VI_SUCCESS, link_->LockDevice("", 1500));
+  peer_.Hears(kAsync, Frame("HS 04 01 000005DC 0000000000000000") + Frame("HS 04 00 FFFFFEFE 0000000000000000") +
+                          Frame("HS 04 01 000005DC 0000000000000000"));
+  peer_.HearsNothingMore(kAsync);
+}
+
+TEST_F(HislipControl, ADeviceClearForgetsNoLockThatMayYetBeGranted) {
+  EXPECT_EQ(VI_ERROR_TMO, link_->LockDevice("", 20));
+  EXPECT_EQ(VI_SUCCESS, Write("A"));
+  peer_.Says(kAsync, Frame("HS 17 00 00000000 0000000000000000"));
+  peer_.Says(kSync, Frame("HS 09 00 00000000 0000000000000000"));
+  EXPECT_EQ(VI_SUCCESS, Clear());
+  peer_.Says(kAsync, Frame("HS 05 01 00000000 0000000000000000") + Frame("HS 16 00 00000000 0000000000000000"));
+  StatusByte();
+  peer_.Hears(kAsync, Frame("HS 04 01 00000014 0000000000000000") + Frame("HS 13 00 00000000 0000000000000000") +
+                          Frame("HS 15 00 FFFFFEFE 0000000000000000") + Frame("HS 04 00 FFFFFEFE 0000000000000000"));
 }
 
 TEST_F(HislipControl, ServiceRequestsReachTheSinkOnlyOnceItIsThere) {
   std::promise<void> first;
-  EXPECT_EQ(VI_SUCCESS, link_->DeliverServiceRequests([&] { first.set_value(); }));
+  EXPECT_EQ(VI_SUCCESS, link_->DeliverServiceRequests([&] { first.set_value(); }, 2000));
   peer_.Says(kAsync, Frame("HS 14 50 00000000 0000000000000000"));
   EXPECT_EQ(std::future_status::ready, first.get_future().wait_for(std::chrono::seconds(5)));
-  EXPECT_EQ(VI_SUCCESS, link_->DeliverServiceRequests({}));
+  EXPECT_EQ(VI_SUCCESS, link_->DeliverServiceRequests({}, 2000));
   peer_.Says(kAsync, Frame("HS 14 50 00000000 0000000000000000"));
   auto status = std::async(std::launch::async, [&] { return StatusByte(); });
   peer_.Next(kAsync, 16);
@@ -188,7 +233,7 @@ TEST_F(HislipControl, ServiceRequestsReachTheSinkOnlyOnceItIsThere) {
 
 TEST_F(HislipControl, ASinkMayItselfAskForTheStatusByte) {
   std::promise<int> told;
-  link_->DeliverServiceRequests([&] { told.set_value(StatusByte()); });
+  link_->DeliverServiceRequests([&] { told.set_value(StatusByte()); }, 2000);
   peer_.Says(kAsync, Frame("HS 14 44 00000000 0000000000000000"));
   peer_.Hears(kAsync, Frame("HS 15 00 FFFFFEFE 0000000000000000"));
   peer_.Says(kAsync, Frame("HS 16 44 00000000 0000000000000000"));
@@ -197,7 +242,7 @@ TEST_F(HislipControl, ASinkMayItselfAskForTheStatusByte) {
 
 TEST_F(HislipControl, AServiceRequestBetweenQuestionAndAnswerIsNotLost) {
   std::promise<void> told;
-  link_->DeliverServiceRequests([&] { told.set_value(); });
+  link_->DeliverServiceRequests([&] { told.set_value(); }, 2000);
   for (int i = 0; i < 50; ++i) {
     auto status = std::async(std::launch::async, [&] { return StatusByte(); });
     peer_.Next(kAsync, 16);
@@ -209,7 +254,7 @@ TEST_F(HislipControl, AServiceRequestBetweenQuestionAndAnswerIsNotLost) {
 }
 
 TEST_F(HislipControl, HangingUpEndsAWaitAndTheThread) {
-  link_->DeliverServiceRequests([] {});
+  link_->DeliverServiceRequests([] {}, 2000);
   Write("A?");
   auto reading = std::async(std::launch::async, [&] { return Read(60000); });
   peer_.Next(kSync, 18);

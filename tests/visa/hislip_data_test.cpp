@@ -84,7 +84,7 @@ TEST_F(HislipData, TheTermcharCutsAndTheRestStays) {
 }
 
 TEST_F(HislipData, SuppressedEndDoesNotEndARead) {
-  EXPECT_EQ(VI_SUCCESS, link_->SetAttribute(VI_ATTR_SUPPRESS_END_EN, VI_TRUE));
+  EXPECT_EQ(VI_SUCCESS, link_->SetAttribute(VI_ATTR_SUPPRESS_END_EN, VI_TRUE, 2000));
   Write("A?");
   peer_.Says(kSync, Frame("HS 07 00 FFFFFF00 0000000000000004", "abcd"));
   EXPECT_EQ("abcd", Read(2000, 4));

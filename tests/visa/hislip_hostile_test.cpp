@@ -1,5 +1,6 @@
 // A peer that does not keep to the protocol costs a call its result, and nothing else.
 #include <atomic>
+#include <future>
 #include <thread>
 
 #include "hislip_peer.h"
@@ -31,7 +32,7 @@ TEST_F(HislipHostile, AWrongPrologueOnTheOtherChannelEndsTheLinkToo) {
 }
 
 TEST_F(HislipHostile, TheThreadThatListensEndsTheLinkAtAWrongPrologue) {
-  link_->DeliverServiceRequests([] {});
+  link_->DeliverServiceRequests([] {}, 2000);
   peer_.Says(kAsync, std::string(16, 'x'));
   peer_.Hears(kAsync, Frame("HS 02 01 00000000 0000000000000000"));
   peer_.HearsTheEnd(kAsync);
@@ -150,6 +151,51 @@ TEST_F(HislipHostile, AStreamOfServiceRequestsDoesNotStretchTheTimeout) {
   ViUInt16 byte = 0;
   EXPECT_EQ(VI_ERROR_TMO, link_->ReadStatusByte(VI_PROT_NORMAL, deadline, byte));
   EXPECT_LT(watch.Milliseconds(), 250);
+  stop = true;
+  link_.reset();
+  device.join();
+}
+
+// The thread that listens has the channel when the stream begins, and must give it up for the question all the same.
+TEST_F(HislipHostile, AnEndlessMessageToTheThreadThatListensDoesNotStretchTheTimeout) {
+  ASSERT_EQ(VI_SUCCESS, link_->DeliverServiceRequests([] {}, 2000));
+  peer_.Says(kAsync, Frame("HS 80 00 00000000 FFFFFFFFFFFFFFFF"));
+  peer_.Hears(kAsync, Frame("HS 03 03 00000000 0000000000000000"));
+  std::atomic<bool> stop{false};
+  std::thread device([&] {
+    const std::string payload(65536, 'x');
+    while (!stop && peer_.Offers(kAsync, payload)) {
+    }
+  });
+  const Stopwatch watch;
+  Deadline deadline(150);
+  ViUInt16 byte = 0;
+  auto asking = std::async(std::launch::async, [&] { return link_->ReadStatusByte(VI_PROT_NORMAL, deadline, byte); });
+  const bool ended = asking.wait_for(std::chrono::seconds(2)) == std::future_status::ready;
+  EXPECT_TRUE(ended);
+  EXPECT_LT(watch.Milliseconds(), 250);
+  if (!ended) link_->HangUp();
+  EXPECT_EQ(VI_ERROR_TMO, asking.get());
+  stop = true;
+  link_.reset();
+  device.join();
+}
+
+TEST_F(HislipHostile, AnInterruptionIsFeltInAStreamThatNeverPauses) {
+  Write("A?");
+  std::atomic<bool> stop{false};
+  std::string flood;
+  for (int i = 0; i < 64; ++i) flood += Frame("HS 07 00 00000002 0000000000000003", "no!");
+  std::thread device([&] {
+    while (!stop && peer_.Offers(kSync, flood)) {
+    }
+  });
+  auto reading = std::async(std::launch::async, [this] { return Read(5000); });
+  EXPECT_EQ(std::future_status::timeout, reading.wait_for(std::chrono::milliseconds(50)));
+  interruption_.Request();
+  EXPECT_EQ(std::future_status::ready, reading.wait_for(std::chrono::seconds(1)));
+  EXPECT_EQ("", reading.get());
+  EXPECT_EQ(VI_ERROR_ABORT, status_);
   stop = true;
   link_.reset();
   device.join();

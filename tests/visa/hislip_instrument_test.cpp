@@ -177,12 +177,40 @@ TEST_F(HislipInstrument, TheLockOfOneKeepsTheOtherWaiting) {
   EXPECT_EQ(VI_SUCCESS, Send(*two, ":POW -2;:POW?\n"));
   EXPECT_EQ(VI_SUCCESS, Send(*one, ":POW -20;:POW?\n"));
   EXPECT_EQ("-20\n", Receive(*one));
-  EXPECT_EQ(VI_SUCCESS, one->UnlockDevice(true));
+  EXPECT_EQ(VI_SUCCESS, one->UnlockDevice(true, 2000));
   EXPECT_EQ("-2\n", Receive(*two));
   EXPECT_EQ(VI_SUCCESS, two->LockDevice("bench", 1000));
   EXPECT_EQ(VI_SUCCESS, one->LockDevice("bench", 1000));
-  EXPECT_EQ(VI_SUCCESS, one->UnlockDevice(false));
-  EXPECT_EQ(VI_ERROR_SESN_NLOCKED, one->UnlockDevice(false));
+  EXPECT_EQ(VI_SUCCESS, one->UnlockDevice(false, 2000));
+  EXPECT_EQ(VI_ERROR_SESN_NLOCKED, one->UnlockDevice(false, 2000));
+}
+
+TEST_F(HislipInstrument, AnEventTellsOfAnErrorAndTheStatusByteSaysWhich) {
+  const ViSession vi = Open();
+  ASSERT_EQ(VI_SUCCESS, viEnableEvent(vi, VI_EVENT_SERVICE_REQ, VI_QUEUE, VI_NULL));
+  ASSERT_EQ(VI_SUCCESS, viQueryf(vi, "*SRE 4;*OPC?\n", "%*t"));
+  EXPECT_EQ(VI_ERROR_TMO, viWaitOnEvent(vi, VI_EVENT_SERVICE_REQ, VI_TMO_IMMEDIATE, nullptr, nullptr));
+  ASSERT_EQ(VI_SUCCESS, viPrintf(vi, ":NO:SUCH\n"));
+  EXPECT_EQ(VI_SUCCESS, viWaitOnEvent(vi, VI_EVENT_SERVICE_REQ, 5000, nullptr, nullptr));
+  ViUInt16 status = 0;
+  EXPECT_EQ(VI_SUCCESS, viReadSTB(vi, &status));
+  EXPECT_EQ(0x44, status);
+}
+
+TEST_F(HislipInstrument, ALockOfOneProgramKeepsAnotherOut) {
+  const ViSession vi = Open();
+  Interruption interruption;
+  const auto other = OpenTransport(interruption);  // knows nothing of the locks in this process
+  ASSERT_EQ(VI_SUCCESS, other->LockDevice("", 1000));
+  EXPECT_EQ(VI_ERROR_RSRC_LOCKED, viLock(vi, VI_EXCLUSIVE_LOCK, VI_TMO_IMMEDIATE, nullptr, nullptr));
+  EXPECT_EQ(VI_ERROR_TMO, viLock(vi, VI_SHARED_LOCK, 30, "bench", nullptr));
+  ASSERT_EQ(VI_SUCCESS, other->UnlockDevice(true, 2000));
+  EXPECT_EQ(VI_SUCCESS, viLock(vi, VI_SHARED_LOCK, 1000, "bench", nullptr));
+  EXPECT_EQ(VI_SUCCESS, viLock(vi, VI_EXCLUSIVE_LOCK, 1000, nullptr, nullptr));
+  EXPECT_EQ(VI_ERROR_TMO, other->LockDevice("bench", 30));
+  EXPECT_EQ(VI_SUCCESS_NESTED_SHARED, viUnlock(vi));
+  EXPECT_EQ(VI_SUCCESS, other->LockDevice("bench", 1000));
+  EXPECT_EQ(VI_SUCCESS, viUnlock(vi));
 }
 
 TEST_F(HislipInstrument, AServiceRequestComesWhileQuestionsGoOn) {
@@ -190,9 +218,10 @@ TEST_F(HislipInstrument, AServiceRequestComesWhileQuestionsGoOn) {
   const auto link = OpenTransport(interruption);
   std::promise<void> asked;
   std::atomic<int> count{0};
-  ASSERT_EQ(VI_SUCCESS, link->DeliverServiceRequests([&] {
+  const auto tell = [&] {
     if (++count == 1) asked.set_value();
-  }));
+  };
+  ASSERT_EQ(VI_SUCCESS, link->DeliverServiceRequests(tell, 2000));
   EXPECT_EQ(VI_SUCCESS, Send(*link, "*SRE 4\n"));
   for (int i = 0; i < 50; ++i) {
     EXPECT_EQ(VI_SUCCESS, Send(*link, "*OPC?\n"));

@@ -98,17 +98,17 @@ TEST_F(HislipOpening, AttributesTellWhatWasAgreed) {
   EXPECT_EQ(VI_SUCCESS, link_->GetAttribute(VI_ATTR_TCPIP_ADDR, text));
   EXPECT_STREQ("127.0.0.1", text);
   EXPECT_EQ(VI_ERROR_NSUP_ATTR, link_->GetAttribute(VI_ATTR_FILE_APPEND_EN, text));
-  EXPECT_EQ(VI_ERROR_ATTR_READONLY, link_->SetAttribute(VI_ATTR_TCPIP_IS_HISLIP, VI_FALSE));
-  EXPECT_EQ(VI_ERROR_NSUP_ATTR_STATE, link_->SetAttribute(VI_ATTR_TCPIP_NODELAY, 2));
+  EXPECT_EQ(VI_ERROR_ATTR_READONLY, link_->SetAttribute(VI_ATTR_TCPIP_IS_HISLIP, VI_FALSE, 2000));
+  EXPECT_EQ(VI_ERROR_NSUP_ATTR_STATE, link_->SetAttribute(VI_ATTR_TCPIP_NODELAY, 2, 2000));
 }
 
 TEST_F(HislipOpening, ANewMessageSizeIsAgreedOnAtOnce) {
   Open();
   peer_.Says(kAsync, Frame("HS 10 00 00000000 0000000000000008", std::string("\0\0\0\0\0\0\x01\0", 8)));
-  EXPECT_EQ(VI_SUCCESS, link_->SetAttribute(VI_ATTR_TCPIP_HISLIP_MAX_MESSAGE_KB, 64));
+  EXPECT_EQ(VI_SUCCESS, link_->SetAttribute(VI_ATTR_TCPIP_HISLIP_MAX_MESSAGE_KB, 64, 2000));
   peer_.Hears(kAsync, Frame("HS 0F 00 00000000 0000000000000008") + std::string("\0\0\0\0\0\x01\0\0", 8));
   EXPECT_EQ(64u, Get<ViUInt32>(VI_ATTR_TCPIP_HISLIP_MAX_MESSAGE_KB));
-  EXPECT_EQ(VI_ERROR_NSUP_ATTR_STATE, link_->SetAttribute(VI_ATTR_TCPIP_HISLIP_MAX_MESSAGE_KB, 0));
+  EXPECT_EQ(VI_ERROR_NSUP_ATTR_STATE, link_->SetAttribute(VI_ATTR_TCPIP_HISLIP_MAX_MESSAGE_KB, 0, 2000));
 }
 
 }  // namespace

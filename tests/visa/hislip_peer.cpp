@@ -25,6 +25,10 @@ std::string Frame(std::string_view header, std::string_view payload) {
   return bytes + std::string(payload);
 }
 
+void HislipPeer::MoveLinkTo(HislipPeer& other) {
+  for (const Side side : {kSync, kAsync}) other.sockets_[side] = std::move(sockets_[side]);
+}
+
 void HislipPeer::Accept(Side side) {
   if (!kvtd::test::WaitReadable(listener_.descriptor(), nullptr, kPatience)) ADD_FAILURE() << "nobody connects";
   sockets_[side] = listener_.Accept();
@@ -72,19 +76,20 @@ ViStatus HislipLink::OpenWith(const std::function<void()>& script, ViUInt32 time
   return opening.get();
 }
 
+void HislipPeer::Welcome(std::string_view preferred, std::string_view largest) {
+  Accept(kSync);
+  Hears(kSync, Frame("HS 00 00 01005456 0000000000000007", "hislip0"));
+  Says(kSync, Frame("HS 01 " + std::string(preferred) + " 01000007 0000000000000000"));
+  Accept(kAsync);
+  Hears(kAsync, Frame("HS 11 00 00000007 0000000000000000"));
+  Says(kAsync, Frame("HS 12 00 00005858 0000000000000000"));
+  Hears(kAsync, Frame("HS 0F 00 00000000 0000000000000008") + std::string("\0\0\0\0\0\x10\0\0", 8));
+  const std::string size = Frame("HS" + std::string(largest) + "000000000000");
+  Says(kAsync, Frame("HS 10 00 00000000 0000000000000008", size.substr(2, 8)));
+}
+
 void HislipLink::Open(std::string_view preferred, std::string_view largest) {
-  const ViStatus status = OpenWith([&] {
-    peer_.Accept(kSync);
-    peer_.Hears(kSync, Frame("HS 00 00 01005456 0000000000000007", "hislip0"));
-    peer_.Says(kSync, Frame("HS 01 " + std::string(preferred) + " 01000007 0000000000000000"));
-    peer_.Accept(kAsync);
-    peer_.Hears(kAsync, Frame("HS 11 00 00000007 0000000000000000"));
-    peer_.Says(kAsync, Frame("HS 12 00 00005858 0000000000000000"));
-    peer_.Hears(kAsync, Frame("HS 0F 00 00000000 0000000000000008") + std::string("\0\0\0\0\0\x10\0\0", 8));
-    const std::string size = Frame("HS" + std::string(largest) + "000000000000");
-    peer_.Says(kAsync, Frame("HS 10 00 00000000 0000000000000008", size.substr(2, 8)));
-  });
-  ASSERT_EQ(VI_SUCCESS, status);
+  ASSERT_EQ(VI_SUCCESS, OpenWith([&] { peer_.Welcome(preferred, largest); }));
 }
 
 ViStatus HislipLink::Write(std::string_view text, ViUInt32 timeout, bool end) {

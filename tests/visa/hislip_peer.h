@@ -26,6 +26,11 @@ enum Side { kSync, kAsync };
 class HislipPeer {
  public:
   std::uint16_t port() const { return listener_.port(); }
+  // Both connections of a link, from the first message to the agreement on sizes. `preferred` is the control code of
+  // InitializeResponse, `largest` the payload of the size the peer accepts.
+  void Welcome(std::string_view preferred = "00", std::string_view largest = "0000000000100000");
+  // So that the next link may come to the same port.
+  void MoveLinkTo(HislipPeer& other);
   // The next connection, as this side of the link.
   void Accept(Side side);
 
@@ -50,7 +55,6 @@ class HislipPeer {
 class HislipLink : public ::testing::Test {
  protected:
   void SetUp() override { Open(); }
-  // `preferred` is the control code of InitializeResponse, `largest` the payload of the size the peer accepts.
   void Open(std::string_view preferred = "00", std::string_view largest = "0000000000100000");
   // Opens while the peer plays `script`.
   ViStatus OpenWith(const std::function<void()>& script, ViUInt32 timeout = 2000);

@@ -294,7 +294,8 @@ TEST_F(ReadFormat, FalseBlocksWriteNothingBeyondWhatCame) {
 
 TEST_F(ReadFormat, BadDirectivesAndNullTargetsAreRefused) {
   ViInt32 value = 5;
-  for (const char* bad : {"%", "%q", "%[abc", "%,d", "%,3s", "%hf", "%Ld", "%b", "%0s", "%*#s", "%@1d", "%B", "%.3d"}) {
+  for (const char* bad :
+       {"%", "%q", "%[abc", "%,d", "%,3s", "%hf", "%Ld", "%b", "%0s", "%*#s", "%@1d", "%B", "%.3d", "%#n", "%3n"}) {
     EXPECT_EQ(VI_ERROR_INV_FMT, Scan("1", bad, &value, &value)) << bad;
   }
   void* const none = nullptr;

@@ -66,6 +66,10 @@ TEST_F(Resource, MalformedDescriptorsAreRefused) {
                                  "host:5025",
                                  "USB::0x1::INSTR",
                                  "ASRL1::2::INSTR",
+                                 "GPIB:::1::INSTR",
+                                 "GPIB::[1::INSTR",
+                                 "GPIB::1 ::INSTR",
+                                 "USB::0x1::0x2::\x80::INSTR",
                                  "::"}) {
     EXPECT_EQ(VI_ERROR_INV_RSRC_NAME, TryOpen(descriptor)) << descriptor;
   }
@@ -152,22 +156,6 @@ TEST_F(Resource, ParsingTellsTheCanonicalNameWithoutAnyConnection) {
   EXPECT_EQ(VI_INTF_GPIB, type);
   EXPECT_EQ(1, number);
   EXPECT_EQ(VI_ERROR_INV_RSRC_NAME, viParseRsrc(manager, "gpib1::2::3::4::5", &type, &number));
-}
-
-TEST_F(Resource, SearchingFindsNothingAndChecksTheExpression) {
-  ViFindList list = 5;
-  ViUInt32 count = 5;
-  char description[VI_FIND_BUFLEN] = "x";
-  EXPECT_EQ(VI_ERROR_RSRC_NFOUND, viFindRsrc(manager, "?*INSTR", &list, &count, description));
-  EXPECT_EQ(0u, count);
-  EXPECT_EQ(VI_NULL, static_cast<int>(list));
-  EXPECT_EQ(VI_ERROR_RSRC_NFOUND,
-            viFindRsrc(manager, "TCPIP[0-9]*::?*{VI_ATTR_TCPIP_PORT==1}", nullptr, nullptr, nullptr));
-  for (const char* bad : {"", "   ", "GPIB[0-9", "(a", "a)", "{VI_ATTR", "a\\"}) {
-    EXPECT_EQ(VI_ERROR_INV_EXPR, viFindRsrc(manager, bad, &list, &count, description)) << bad;
-  }
-  EXPECT_EQ(VI_ERROR_INV_EXPR, viFindRsrc(manager, nullptr, &list, &count, description));
-  EXPECT_EQ(VI_ERROR_INV_OBJECT, viFindNext(list, description));
 }
 
 TEST_F(Resource, AFreshSessionHasThePublishedDefaults) {

@@ -17,34 +17,55 @@ void SetChildText(pugi::xml_node parent, const char* name, const std::string& va
   child.text().set(value.c_str());
 }
 
+std::shared_ptr<const LoadedStore> Load(const StoreSource& source) {
+  auto loaded = std::make_shared<LoadedStore>();
+  ParseStore(source, loaded->document);
+  loaded->model = ReadStore(source, loaded->document);
+  return loaded;
+}
+
+// Always the same, and part of every opening of a session on a bare machine: read once.
+std::shared_ptr<const LoadedStore> LoadBuiltIn() {
+  static const std::shared_ptr<const LoadedStore> loaded = Load({"built-in store", std::string(BuiltInStore())});
+  return loaded;
+}
+
 }  // namespace
 
-Store::Store() : process_default_location_(ProcessDefaultLocation()) { document_.append_child("IviConfigStore"); }
+Store::Store() : process_default_location_(ProcessDefaultLocation()) {}
 
 ViStatus Store::Deserialize(const std::string& location) {
   const std::lock_guard<std::mutex> hold(guard_);
-  if (model_ != nullptr) return IVICONFIG_ERROR_ALREADY_DESERIALIZED;
+  if (loaded_ != nullptr) return IVICONFIG_ERROR_ALREADY_DESERIALIZED;
 
   std::optional<std::string> text = ReadFile(location);
   const bool built_in = !text && location == MasterLocation();
   if (!text && !built_in) throw StoreError(location + ": no such file");
-  const StoreSource source{location, built_in ? std::string(BuiltInStore()) : std::move(*text)};
-
-  pugi::xml_document document;
-  ParseStore(source, document);
-  auto model = std::make_unique<const Model>(ReadStore(source, document));
-  identity_ = model->identity;
+  loaded_ = built_in ? LoadBuiltIn() : Load({location, std::move(*text)});
+  identity_ = loaded_->model.identity;
   if (!built_in) actual_location_ = location;
-  document_ = std::move(document);
-  model_ = std::move(model);
+  document_.reset();
   return VI_SUCCESS;
+}
+
+pugi::xml_document& Store::Document() {
+  if (document_ == nullptr) {
+    auto document = std::make_unique<pugi::xml_document>();
+    if (loaded_ != nullptr) {
+      document->reset(loaded_->document);
+    } else {
+      document->append_child("IviConfigStore");
+    }
+    document_ = std::move(document);
+  }
+  return *document_;
 }
 
 void Store::Serialize(const std::string& location) {
   std::ostringstream text;
   {
     const std::lock_guard<std::mutex> hold(guard_);
-    document_.save(text, "  ", pugi::format_default, pugi::encoding_utf8);
+    Document().save(text, "  ", pugi::format_default, pugi::encoding_utf8);
   }
   ReplaceFile(location, text.str());
 }
@@ -97,11 +118,11 @@ bool Store::SetText(ViInt32 property, const std::string& value) {
   switch (property) {
     case IVICONFIG_PROP_NAME:
       identity_.name = value;
-      SetChildText(document_.document_element(), "Name", value);
+      SetChildText(Document().document_element(), "Name", value);
       return true;
     case IVICONFIG_PROP_DESCRIPTION:
       identity_.description = value;
-      SetChildText(document_.document_element(), "Description", value);
+      SetChildText(Document().document_element(), "Description", value);
       return true;
     case IVICONFIG_PROP_STORE_PROCESS_DEFAULT_LOCATION:
       SetProcessDefaultLocation(value);
@@ -115,7 +136,7 @@ bool Store::SetText(ViInt32 property, const std::string& value) {
 const Model& Store::model() {
   static const Model empty;
   const std::lock_guard<std::mutex> hold(guard_);
-  return model_ == nullptr ? empty : *model_;
+  return loaded_ == nullptr ? empty : loaded_->model;
 }
 
 }  // namespace tvrivi

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "IviConfigServer.h"
-#include "config/Model.h"
+#include "config/StoreReader.h"
 
 namespace tvrivi {
 
@@ -32,9 +32,11 @@ class Store {
   const Model& model();
 
  private:
+  pugi::xml_document& Document();
+
   std::mutex guard_;
-  pugi::xml_document document_;         // what Serialize writes
-  std::unique_ptr<const Model> model_;  // null until Deserialize
+  std::shared_ptr<const LoadedStore> loaded_;     // null until Deserialize; may be other stores' too
+  std::unique_ptr<pugi::xml_document> document_;  // what Serialize writes; null until somebody needs one of his own
   StoreIdentity identity_;
   std::string actual_location_;  // empty for the built-in store, which is nowhere
   std::string process_default_location_;

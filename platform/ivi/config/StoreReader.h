@@ -8,6 +8,12 @@
 
 namespace tvrivi {
 
+/// A document and what it says.
+struct LoadedStore {
+  pugi::xml_document document;
+  Model model;
+};
+
 /// Parses the text into a document that keeps comments, instructions and unknown elements, so that it can be written
 /// back without loss. Throws StoreError.
 void ParseStore(const StoreSource& source, pugi::xml_document& document);

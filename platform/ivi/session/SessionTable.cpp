@@ -1,6 +1,7 @@
 #include "session/SessionTable.h"
 
 #include <new>
+#include <utility>
 
 namespace tvrivi {
 
@@ -45,7 +46,8 @@ bool SessionTable::Remove(ViSession handle) noexcept {
   {
     const std::lock_guard<std::mutex> hold_error(slot->error_guard);
     slot->handle.store(0, std::memory_order_release);
-    slot->error = ErrorRecord();
+    // Assigning an empty record would keep the memory of the text.
+    static_cast<void>(std::exchange(slot->error, ErrorRecord()));
   }
   slot->data.store(nullptr, std::memory_order_release);
   slot->lock.Close();

@@ -161,8 +161,9 @@ bool ParseReadDirective(const char*& format, ReadDirective& directive) {
   const bool empty = directive.width.given == Given::kInFormat && directive.width.value == 0;
   if (empty || !LengthFits(directive.code, directive.length) || (ordered && directive.code != 'y')) return false;
   if (!number && directive.size.given != Given::kNot) return false;
-  // A number's width by pointer would have to be stored back into, and has no published meaning.
+  // A number's width by pointer would have to be stored back into, and has no published meaning; nor has any of %n.
   if (number && directive.width.given == Given::kAsArgument) return false;
+  if (directive.code == 'n' && directive.width.given != Given::kNot) return false;
   // Discarding takes no argument, so its size must stand in the format.
   if (directive.suppressed &&
       (directive.width.given == Given::kAsArgument || directive.size.given == Given::kAsArgument))

@@ -15,11 +15,13 @@ namespace {
 // Standard C++ has no integer of this width; both compilers do, and spell it so in every mode.
 __extension__ using Wide = unsigned __int128;
 
-constexpr std::array<std::uint64_t, 20> kPowersOfTen = [] {
-  std::array<std::uint64_t, 20> powers{1};
+constexpr std::array<std::uint64_t, 20> PowersOfTen() {
+  std::array<std::uint64_t, 20> powers{};
+  powers[0] = 1;
   for (std::size_t i = 1; i < powers.size(); ++i) powers[i] = powers[i - 1] * 10;
   return powers;
-}();
+}
+constexpr auto kPowersOfTen = PowersOfTen();
 
 // Eight digits of a number below 10^8 as text in one register, the first digit in the lowest byte: halves, then
 // quarters, then single digits are split off in parallel lanes.

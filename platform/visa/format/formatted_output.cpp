@@ -44,6 +44,7 @@ char* FormattedOutput::Room(std::size_t count) {
 }
 
 void FormattedOutput::Append(std::string_view text) {
+  if (text.empty()) return;
   if (link_ != nullptr && used_ + text.size() > limit_) return AppendBlock(text.data(), text.size());
   std::memcpy(Room(text.size()), text.data(), text.size());
   used_ += text.size();

@@ -1,6 +1,7 @@
 #include "format/read_format.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cstring>
 #include <limits>
 #include <optional>
@@ -187,6 +188,23 @@ ViStatus Reader::Collect(const ReadDirective& directive, TextTarget& target) {
   }
 }
 
+// A number in plain notation that is seen whole: no byte behind the window could go on with it. Most are so, and need
+// no look at each byte by itself. False: nothing has been taken.
+template <class Element>
+bool TakePlainNumber(ReadStream& in, Element& value) {
+  const std::string_view window = in.Window();
+  const char* const last = window.data() + window.size();
+  const char* const digit = window.data() + (window.starts_with('-') ? 1 : 0);
+  if (digit == last || *digit < '0' || *digit > '9') return false;
+  Element found{};
+  const auto [end, error] = std::from_chars(window.data(), last, found);
+  if (error != std::errc() || end == last) return false;
+  if (*end == 'e' || *end == 'E' || (std::is_integral_v<Element> && *end == '.')) return false;
+  in.TakeMany(static_cast<std::size_t>(end - window.data()));
+  value = found;
+  return true;
+}
+
 template <class Element>
 void Put(Element* target, std::size_t index, const ScannedNumber& number) {
   if constexpr (std::is_floating_point_v<Element>) {
@@ -223,6 +241,10 @@ ViStatus Reader::Numbers(const ReadDirective& directive) {
     if (in_.ended()) {
       if (stored == 0 && directive.size.given == Given::kNot && !directive.suppressed) status = VI_ERROR_INV_FMT;
       break;
+    }
+    if (base == 10 && width == 0 && target != nullptr && TakePlainNumber(in_, target[stored])) {
+      ++stored;
+      continue;
     }
     ScannedNumber number;
     if (!number.Scan(in_, base, width)) {

@@ -122,6 +122,7 @@ ViStatus _VI_FUNC viVQueryf(ViSession vi, ViConstString writeFmt, ViConstString 
 #define VI_WARN_NSUP_ATTR_STATE (0x3FFF0084L)
 #define VI_WARN_UNKNOWN_STATUS (0x3FFF0085L)
 #define VI_WARN_NSUP_BUF (0x3FFF0088L)
+#define VI_SUCCESS_NCHAIN (0x3FFF0098L)
 #define VI_SUCCESS_NESTED_SHARED (0x3FFF0099L)
 #define VI_SUCCESS_NESTED_EXCLUSIVE (0x3FFF009AL)
 #define VI_SUCCESS_SYNC (0x3FFF009BL)
@@ -233,6 +234,7 @@ ViStatus _VI_FUNC viVQueryf(ViSession vi, ViConstString writeFmt, ViConstString 
 #define VI_ATTR_TCPIP_HISLIP_VERSION (0x3FFF0301UL)
 #define VI_ATTR_TCPIP_HISLIP_MAX_MESSAGE_KB (0x3FFF0302UL)
 #define VI_ATTR_TCPIP_IS_HISLIP (0x3FFF0303UL)
+#define VI_ATTR_EVENT_TYPE (0x3FFF4010UL)
 #ifdef _VISA_ENV_IS_64_BIT
 #define VI_ATTR_USER_DATA VI_ATTR_USER_DATA_64
 #else
@@ -260,7 +262,10 @@ ViStatus _VI_FUNC viVQueryf(ViSession vi, ViConstString writeFmt, ViConstString 
 #define VI_INTF_USB (7)
 
 #define VI_PROT_NORMAL (1)
+#define VI_PROT_FDC (2)
+#define VI_PROT_HS488 (3)
 #define VI_PROT_4882_STRS (4)
+#define VI_PROT_USBTMC_VENDOR (5)
 
 #define VI_NO_LOCK (0)
 #define VI_EXCLUSIVE_LOCK (1)

@@ -437,6 +437,7 @@ TEST_F(MemoryDialogue, ALengthOfTenDigitsIsRead) {
 }
 
 TEST_F(MemoryDialogue, ALengthLongerThanTheDataEndsAtTheTimeout) {
+  ONLY_OVER_THE_SOCKET("other links tell the end of the message");
   for (const char* bytes : {"#15abc\n", "#19\n", "#:9999999999abc", "#3200abc\n\n"}) {
     SetIoTimeout(60);
     FileIsAnsweredBy(bytes);
@@ -450,7 +451,19 @@ TEST_F(MemoryDialogue, ALengthLongerThanTheDataEndsAtTheTimeout) {
   EXPECT_EQ(kNothingRecorded, LastError());
 }
 
+// The line feed that ends the message is among what was read.
+TEST_F(MemoryDialogue, WhereTheLinkTellsTheEndOfTheMessageTheCountTellsThatTheFileIsShort) {
+  if (ChosenLink() == LinkKind::Socket) GTEST_SKIP() << "a raw socket does not tell";
+  FileIsAnsweredBy("#15abc\n");
+  GuardedBytes<64> data;
+  ViInt32 actual = 77;
+  EXPECT_STATUS(VI_SUCCESS, ReadFile(data, &actual));
+  EXPECT_EQ(4, actual);
+  EXPECT_EQ("abc\n", data.first(4));
+}
+
 TEST_F(MemoryDialogue, ReadsEndAtTheLineFeedAgainBehindAFileThatFailed) {
+  ONLY_OVER_THE_SOCKET("no other link ends its reads at a character");
   SetIoTimeout(60);
   FileIsAnsweredBy("#19ab\n");
   GuardedBytes<16> data;

@@ -158,6 +158,19 @@ TEST_F(RemoteDialogue, OperationsRefuseAHandleThatIsNotOpen) {
   EXPECT_EQ(kNothingRecorded, LastError());
 }
 
+TEST_F(RemoteDialogue, ANullTextIsRefusedAndNothingIsSent) {
+  EXPECT_STATUS(kNullPointer, KVTD481X2C_SetStaticLanConfiguration(vi, nullptr, "b", "c"));
+  EXPECT_EQ(NullPointerError("KVTD481X2C_SetStaticLanConfiguration", "First"), LastError());
+  EXPECT_STATUS(kNullPointer, KVTD481X2C_SetStaticLanConfiguration(vi, "a", nullptr, "c"));
+  EXPECT_EQ(NullPointerError("KVTD481X2C_SetStaticLanConfiguration", "Second"), LastError());
+  EXPECT_STATUS(kNullPointer, KVTD481X2C_ConfigureDns(vi, "a", "b", nullptr));
+  EXPECT_EQ(NullPointerError("KVTD481X2C_ConfigureDns", "Third"), LastError());
+  EXPECT_STATUS(kNullPointer, KVTD481X2C_AddDnsServers(vi, nullptr));
+  EXPECT_EQ(NullPointerError("KVTD481X2C_AddDnsServers", "List"), LastError());
+  EXPECT_STATUS(kNullPointer, KVTD481X2C_RemoveDnsServers(vi, nullptr));
+  EXPECT_EQ(NullPointerError("KVTD481X2C_RemoveDnsServers", "List"), LastError());
+}
+
 TEST_F(SimulatedRemote, WritesSucceedWithoutSending) {
   EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_SetStaticLanConfiguration(vi, "a", "b", "c"));
   EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_ConfigureDns(vi, "a", "b", "c"));

@@ -1,4 +1,5 @@
-// Who of the HiSLIP clients holds the instrument: one lock for all of them, exclusive or shared by a common string.
+// Who of the clients holds the instrument: one lock for all of them, exclusive or shared by a common string. Raw
+// sockets know no locks and are held back by none.
 #pragma once
 
 #include <asio/io_context.hpp>
@@ -10,7 +11,7 @@
 #include <string>
 #include <vector>
 
-namespace siggen::link::hislip {
+namespace siggen::link {
 
 class Locks {
  public:
@@ -24,6 +25,8 @@ class Locks {
   // An empty key asks for the exclusive lock. `answer` is called at once, or when the lock is had, or the time is up.
   void Request(Client client, std::string key, std::chrono::milliseconds patience, std::function<void(Outcome)> answer);
   Released Release(Client client);
+  // A request that is still waiting is not answered any more.
+  void Withdraw(Client client);
   // The client is gone: its locks are free, its requests forgotten.
   void Forget(Client client);
 
@@ -54,4 +57,4 @@ class Locks {
   unsigned last_ticket_ = 0;
 };
 
-}  // namespace siggen::link::hislip
+}  // namespace siggen::link

@@ -1,8 +1,8 @@
-#include "link/hislip_locks.h"
+#include "link/locks.h"
 
 #include <algorithm>
 
-namespace siggen::link::hislip {
+namespace siggen::link {
 
 bool Locks::Shares(Client client) const {
   return std::find(sharers_.begin(), sharers_.end(), client) != sharers_.end();
@@ -65,25 +65,29 @@ Locks::Released Locks::Release(Client client) {
   return Released::kShared;
 }
 
-void Locks::Forget(Client client) {
+void Locks::Withdraw(Client client) {
   waiting_.remove_if([client](const Waiting& waiting) { return waiting.client == client; });
+}
+
+void Locks::Forget(Client client) {
+  Withdraw(client);
   const bool held = exclusive_ == client || Shares(client);
   if (exclusive_ == client) exclusive_ = nullptr;
   std::erase(sharers_, client);
   if (held) Changed();
 }
 
+// Whoever is told may be gone by that, and others may have been served meanwhile: so it begins anew each time.
 void Locks::Changed() {
-  for (auto next = waiting_.begin(); next != waiting_.end();) {
-    if (!Grant(next->client, next->key)) {
-      ++next;
-      continue;
-    }
+  for (;;) {
+    const auto next = std::find_if(waiting_.begin(), waiting_.end(),
+                                   [this](const Waiting& waiting) { return Grant(waiting.client, waiting.key); });
+    if (next == waiting_.end()) break;
     const auto tell = std::move(next->answer);
-    next = waiting_.erase(next);
+    waiting_.erase(next);
     tell(Outcome::kGranted);
   }
   changed_();
 }
 
-}  // namespace siggen::link::hislip
+}  // namespace siggen::link

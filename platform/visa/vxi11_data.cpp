@@ -1,0 +1,108 @@
+// Data in both directions.
+#include <algorithm>
+
+#include "vxi11.h"
+
+namespace tvr::visa::vxi11 {
+namespace {
+
+// Asked for at once. Devices keep room for what they are asked for, and a lost connection costs no more than this.
+constexpr std::size_t kMostRequested = 1024 * 1024;
+
+}  // namespace
+
+ViStatus Vxi11Transport::Read(const ReadRequest& request, Deadline& deadline, std::size_t& received) {
+  const std::lock_guard busy(busy_);
+  received = 0;
+  for (;;) {
+    int reason = 0;
+    if (const ViStatus status = ReadPart(request, deadline, received, reason); status < 0) return status;
+    if ((reason & kReasonEnd) != 0 && !suppress_end_) return VI_SUCCESS;
+    // By the data, whatever the reason says: not every device tells that the byte at the count is the termchar too.
+    if (request.termchar && received > 0 && request.into[received - 1] == *request.termchar) {
+      return VI_SUCCESS_TERM_CHAR;
+    }
+    if (received >= request.at_least) return VI_SUCCESS_MAX_CNT;
+    if (deadline.Expired()) return VI_ERROR_TMO;
+  }
+}
+
+ViStatus Vxi11Transport::ReadPart(const ReadRequest& request, Deadline& deadline, std::size_t& received, int& reason) {
+  const std::size_t room = std::min(request.room - received, kMostRequested);
+  const ViUInt32 time = TimeLeft(deadline);
+  Deadline patience = Patience(time);
+  Device_ReadParms arguments{lid_,
+                             static_cast<u_int>(room),
+                             time,
+                             0,
+                             request.termchar ? kTermcharSet : 0,
+                             static_cast<char>(request.termchar.value_or(0))};
+  Device_ReadResp answer{};
+  if (const ViStatus status = Ask(DEVICE_READ, xdr_Device_ReadParms, arguments, xdr_Device_ReadResp, answer, patience);
+      status < 0) {
+    return status;
+  }
+  std::size_t count = 0;
+  const ViStatus status =
+      core_.ReadData(request.into + received, std::min<std::size_t>(answer.data_length, room), patience, count);
+  received += count;
+  if (status < 0) return Settle(status);
+  reason = answer.reason;
+  if (answer.error != 0) return StatusOf(answer.error);
+  return answer.data_length > room ? VI_ERROR_OUTP_PROT_VIOL : VI_SUCCESS;
+}
+
+ViStatus Vxi11Transport::Write(std::span<iovec> pieces, bool end, Deadline& deadline, std::size_t& sent) {
+  const std::lock_guard busy(busy_);
+  sent = 0;
+  std::size_t left = 0;
+  for (const iovec& piece : pieces) left += piece.iov_len;
+  while (left > 0) {
+    // As much as the device takes at once, and END with the last of it.
+    const std::size_t length = std::min(left, most_data_);
+    pieces_.clear();
+    for (std::size_t i = 0, gathered = 0; gathered < length; ++i) {
+      const std::size_t share = std::min(length - gathered, pieces[i].iov_len);
+      if (share > 0) pieces_.push_back({pieces[i].iov_base, share});
+      gathered += share;
+    }
+    std::size_t taken = 0;
+    const ViStatus status = WritePart(pieces_, length, end && length == left, deadline, taken);
+    sent += taken;
+    left -= taken;
+    if (status < 0) return status;
+    if (left > 0 && deadline.Expired()) return VI_ERROR_TMO;
+    while (taken > 0) {
+      iovec& piece = pieces.front();
+      const std::size_t share = std::min(taken, piece.iov_len);
+      piece.iov_base = static_cast<ViByte*>(piece.iov_base) + share;
+      piece.iov_len -= share;
+      taken -= share;
+      if (piece.iov_len == 0) pieces = pieces.subspan(1);
+    }
+  }
+  return VI_SUCCESS;
+}
+
+ViStatus Vxi11Transport::WritePart(std::span<const iovec> part, std::size_t length, bool end, Deadline& deadline,
+                                   std::size_t& taken) {
+  const ViUInt32 time = TimeLeft(deadline);
+  Deadline patience = Patience(time);
+  Device_WriteParms arguments{lid_, time, 0, end ? kEnd : 0, static_cast<u_int>(length)};
+  Device_WriteResp answer{};
+  if (const ViStatus status =
+          Ask(DEVICE_WRITE, xdr_Device_WriteParms, arguments, xdr_Device_WriteResp, answer, patience, part);
+      status < 0) {
+    return status;
+  }
+  if (answer.error != 0) {
+    taken = answer.size < length ? answer.size : 0;
+    return StatusOf(answer.error);
+  }
+  if (answer.size > length) return Settle(kMalformed);
+  taken = answer.size;
+  // Taking nothing without a word why would go on for ever.
+  return taken == 0 ? VI_ERROR_IO : VI_SUCCESS;
+}
+
+}  // namespace tvr::visa::vxi11

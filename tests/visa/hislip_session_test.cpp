@@ -1,0 +1,86 @@
+// What a session makes of a link that marks the end of its messages.
+#include <algorithm>
+#include <thread>
+
+#include "hislip_session.h"
+
+namespace tvr::visa::hislip {
+namespace {
+
+class HislipReading : public HislipSession {
+ protected:
+  std::string Read(ViUInt32 room = 100) {
+    std::string into(room, '?');
+    ViUInt32 count = 0;
+    status_ = viRead(vi_, reinterpret_cast<ViPBuf>(into.data()), room, &count);
+    into.resize(count);
+    return into;
+  }
+  ViStatus status_ = VI_SUCCESS;
+};
+
+TEST_F(HislipReading, ATerminationCharacterCountsOnlyWhenItIsEnabled) {
+  const std::string two_lines = Frame("HS 07 00 FFFFFEFE 0000000000000004", "1\n2\n");
+  peer_.Says(kSync, two_lines);
+  EXPECT_EQ("1\n2\n", Read());
+  EXPECT_EQ(VI_SUCCESS, status_);
+
+  ASSERT_EQ(VI_SUCCESS, viSetAttribute(vi_, VI_ATTR_TERMCHAR_EN, VI_TRUE));
+  peer_.Says(kSync, two_lines);
+  EXPECT_EQ("1\n", Read());
+  EXPECT_EQ(VI_SUCCESS_TERM_CHAR, status_);
+  ASSERT_EQ(VI_SUCCESS, viSetAttribute(vi_, VI_ATTR_TERMCHAR_EN, VI_FALSE));
+  EXPECT_EQ("2\n", Read());
+  EXPECT_EQ(VI_SUCCESS, status_);
+}
+
+TEST_F(HislipReading, AFormattedReadTakesLineFeedsForBytesToo) {
+  peer_.Says(kSync, Frame("HS 07 00 FFFFFEFE 0000000000000004", "1\n2\n"));
+  char text[16] = "";
+  EXPECT_EQ(VI_SUCCESS, viScanf(vi_, "%t", text));
+  EXPECT_STREQ("1\n2\n", text);
+}
+
+TEST_F(HislipReading, NoTerminationCharacterIsAddedToWhatIsWritten) {
+  EXPECT_EQ(VI_SUCCESS, viWrite(vi_, reinterpret_cast<ViConstBuf>("*CLS"), 4, nullptr));
+  peer_.Hears(kSync, Frame("HS 07 00 FFFFFF00 0000000000000004", "*CLS"));
+  peer_.HearsNothingMore(kSync);
+}
+
+TEST_F(HislipReading, EveryPublishedProtocolCanBeSet) {
+  ViUInt16 protocol = 0;
+  EXPECT_EQ(VI_SUCCESS, viGetAttribute(vi_, VI_ATTR_IO_PROT, &protocol));
+  EXPECT_EQ(1, protocol);
+  for (const ViUInt16 published : std::initializer_list<ViUInt16>{2, 3, 4, 5, 1}) {
+    EXPECT_EQ(VI_SUCCESS, viSetAttribute(vi_, VI_ATTR_IO_PROT, published));
+    EXPECT_EQ(VI_SUCCESS, viGetAttribute(vi_, VI_ATTR_IO_PROT, &protocol));
+    EXPECT_EQ(published, protocol);
+  }
+  EXPECT_EQ(VI_ERROR_NSUP_ATTR_STATE, viSetAttribute(vi_, VI_ATTR_IO_PROT, 0));
+  EXPECT_EQ(VI_ERROR_NSUP_ATTR_STATE, viSetAttribute(vi_, VI_ATTR_IO_PROT, 6));
+}
+
+TEST_F(HislipReading, TerminateEndsABlockedReadWithinTenMillisecondsAndTheSessionGoesOn) {
+  ASSERT_EQ(VI_SUCCESS, viSetAttribute(vi_, VI_ATTR_TMO_VALUE, 10000));
+  long shortest = 10000;
+  for (int i = 0; i < 10; ++i) {
+    auto reading = std::async(std::launch::async, [this] { return Read(8); });
+    // Long enough for the read to have begun, as a rule; one that has not is not ended, and is tried again.
+    std::this_thread::sleep_for(std::chrono::milliseconds(3 + i));
+    Stopwatch watch;
+    do {
+      watch = {};
+      ASSERT_EQ(VI_SUCCESS, viTerminate(vi_, VI_NULL, VI_NULL));
+    } while (reading.wait_for(std::chrono::milliseconds(100)) == std::future_status::timeout);
+    shortest = std::min(shortest, watch.Milliseconds());
+    EXPECT_EQ("", reading.get());
+    EXPECT_EQ(VI_ERROR_ABORT, status_);
+  }
+  EXPECT_LT(shortest, 10);
+  peer_.Says(kSync, Frame("HS 07 00 FFFFFEFE 0000000000000005", "after"));
+  EXPECT_EQ("after", Read());
+  EXPECT_EQ(VI_SUCCESS, status_);
+}
+
+}  // namespace
+}  // namespace tvr::visa::hislip
