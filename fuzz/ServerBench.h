@@ -1,0 +1,157 @@
+// The virtual instrument with one of its servers, and clients on the loopback interface, all in one thread.
+//
+// The instrument is reset between runs and not made anew, which would take ten times as long as all the rest; the
+// fuzzer `scpi` is there for it.
+#pragma once
+
+#include <arpa/inet.h>
+#include <netinet/in.h>
+#include <poll.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <array>
+#include <asio/io_context.hpp>
+#include <asio/post.hpp>
+#include <cerrno>
+#include <chrono>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "Input.h"
+#include "Require.h"
+#include "link/services.h"
+#include "model/instrument.h"
+
+namespace kvtd::fuzz {
+
+class Client {
+ public:
+  // Not waiting: libFuzzer's timer would interrupt it.
+  explicit Client(std::uint16_t port) : socket_(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0)) {
+    // Closed by a reset, so that no ports are used up.
+    const linger at_once{1, 0};
+    ::setsockopt(socket_, SOL_SOCKET, SO_LINGER, &at_once, sizeof at_once);
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_port = htons(port);
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    const int result = ::connect(socket_, reinterpret_cast<const sockaddr*>(&address), sizeof address);
+    Require(result == 0 || errno == EINPROGRESS, "the instrument takes connections");
+  }
+  ~Client() { ::close(socket_); }
+  Client(const Client&) = delete;
+  Client& operator=(const Client&) = delete;
+
+  void Send(const std::string& bytes) {
+    [[maybe_unused]] const auto sent = ::send(socket_, bytes.data(), bytes.size(), MSG_NOSIGNAL);
+  }
+  std::string Receive() {
+    std::array<char, 4096> bytes;
+    const auto count = ::recv(socket_, bytes.data(), bytes.size(), 0);
+    return {bytes.data(), static_cast<std::size_t>(count > 0 ? count : 0)};
+  }
+  // On a busy machine the loopback interface takes a moment.
+  void AwaitReadable() const {
+    pollfd wait{socket_, POLLIN, 0};
+    ::poll(&wait, 1, 10);
+  }
+  void EndSending() { ::shutdown(socket_, SHUT_WR); }
+
+ private:
+  int socket_;
+};
+
+template <class Server>
+class ServerBench : public siggen::link::Services {
+ public:
+  asio::io_context& io() override { return io_; }
+  siggen::model::Instrument& instrument() override { return instrument_; }
+  siggen::link::FaultPlan& faults() override { return faults_; }
+  siggen::link::Locks& locks() override { return locks_; }
+  // As the instrument's main loop has it, but for timers: here nothing ends by itself.
+  void Worked() override {
+    instrument_.CatchUp();
+    if (instrument_.TakePowerEvent() != siggen::model::PowerEvent::kNone) {
+      asio::post(io_, [this] { server_.CloseClients(); });
+    }
+    server_.StatusChanged();
+    if (instrument_.operations_pending()) return;
+    server_.ForEachLink([this](const std::shared_ptr<siggen::link::Link>& link) {
+      if (link->waiting()) asio::post(io_, [link] { link->Pump(); });
+    });
+  }
+
+  // What the clients do, and then, if wanted, the proof that the next one is served.
+  void Run(Input& input, bool prove_service) {
+    instrument_.FactoryReset();
+    instrument_.Reboot();
+    instrument_.TakePowerEvent();
+    Begin();
+    while (!input.empty()) {
+      Step(input);
+      Serve();
+    }
+    Leave();
+    if (prove_service) RequireService();
+    Leave();
+  }
+
+ protected:
+  virtual void Begin() {}
+  virtual void Step(Input& input) = 0;
+  virtual void RequireService() = 0;
+
+  Client& Connect() {
+    clients_.push_back(std::make_unique<Client>(server_.port()));
+    Serve();
+    return *clients_.back();
+  }
+  void Serve() {
+    io_.restart();
+    io_.poll();
+  }
+  // What is owed for certain.
+  std::string Await(Client& client, std::size_t size) {
+    std::string answer;
+    for (int patience = 0; answer.size() < size && patience < 100; ++patience) {
+      Serve();
+      answer += client.Receive();
+      if (answer.size() < size) client.AwaitReadable();
+    }
+    return answer;
+  }
+  void PassASecond() {
+    now_ += std::chrono::seconds(1);
+    Worked();
+  }
+  void AddFault(Input& input) {
+    using Kind = siggen::link::Fault::Kind;
+    // A delay would be one of real time.
+    constexpr std::array<Kind, 6> kKinds = {Kind::kDrop,    Kind::kReset,      Kind::kCut,
+                                            Kind::kGarbage, Kind::kTerminator, Kind::kBlock};
+    faults_.Add({kKinds[input.Choice(kKinds.size())], {}, 1});
+  }
+
+  std::vector<std::unique_ptr<Client>> clients_;
+
+ private:
+  void Leave() {
+    faults_.Clear();
+    clients_.clear();
+    Serve();
+    server_.CloseClients();
+    Serve();
+  }
+
+  asio::io_context io_;
+  siggen::model::Instant now_{};
+  siggen::model::Instrument instrument_{siggen::model::Identity{}, [this] { return now_; }, siggen::model::WallTime{}};
+  siggen::link::FaultPlan faults_;
+  siggen::link::Locks locks_{io_, [this] { server_.LocksChanged(); }};
+  Server server_{*this, "127.0.0.1", 0};
+};
+
+}  // namespace kvtd::fuzz
