@@ -1,70 +1,14 @@
 #include "FilePeer.h"
 
-#include <arpa/inet.h>
-#include <netinet/in.h>
-#include <netinet/tcp.h>
 #include <sys/socket.h>
-#include <unistd.h>
 
 #include <algorithm>
-#include <random>
-#include <stdexcept>
 #include <string_view>
+#include <vector>
 
 namespace bench {
-namespace {
 
-bool SendAll(int connection, std::string_view bytes) {
-  while (!bytes.empty()) {
-    const ssize_t sent = ::send(connection, bytes.data(), bytes.size(), MSG_NOSIGNAL);
-    if (sent <= 0) return false;
-    bytes.remove_prefix(static_cast<std::size_t>(sent));
-  }
-  return true;
-}
-
-}  // namespace
-
-FilePeer::FilePeer(std::size_t file_size) : listener_(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
-  sockaddr_in address{};
-  address.sin_family = AF_INET;
-  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-  socklen_t size = sizeof address;
-  if (listener_ < 0 || ::bind(listener_, reinterpret_cast<sockaddr*>(&address), size) != 0 ||
-      ::listen(listener_, 4) != 0 || ::getsockname(listener_, reinterpret_cast<sockaddr*>(&address), &size) != 0) {
-    throw std::runtime_error("no loopback listener");
-  }
-  port_ = ntohs(address.sin_port);
-  const std::string length = std::to_string(file_size);
-  block_ = "#" + std::to_string(length.size()) + length;
-  std::mt19937 random(3);
-  std::generate_n(std::back_inserter(block_), file_size, [&random] { return static_cast<char>(random()); });
-  block_ += '\n';
-  thread_ = std::thread([this] { Serve(); });
-}
-
-FilePeer::~FilePeer() {
-  ::shutdown(listener_, SHUT_RDWR);
-  thread_.join();
-  ::close(listener_);
-}
-
-void FilePeer::Serve() {
-  std::vector<std::thread> connections;
-  for (;;) {
-    const int connection = ::accept4(listener_, nullptr, nullptr, SOCK_CLOEXEC);
-    if (connection < 0) break;
-    const int on = 1;
-    ::setsockopt(connection, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
-    connections.emplace_back([this, connection] {
-      ServeOne(connection);
-      ::close(connection);
-    });
-  }
-  for (std::thread& connection : connections) connection.join();
-}
-
-void FilePeer::ServeOne(int connection) const {
+void FilePeer::Serve(int connection) const {
   std::vector<char> buffer(std::size_t{1} << 20);
   std::string line;          // the beginning of a line, as much as tells what it is
   std::size_t in_block = 0;  // bytes of a block that are still to come
@@ -93,8 +37,7 @@ void FilePeer::ServeOne(int connection) const {
         continue;
       }
       if (line.find('?') != std::string::npos) {
-        const bool file = line.starts_with(":MMEM:DATA?");
-        if (!SendAll(connection, file ? std::string_view(block_) : "1\n")) return;
+        if (!SendAll(connection, answers_.To(line))) return;
       }
       line.clear();
     }

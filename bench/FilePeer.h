@@ -1,32 +1,27 @@
-// A peer that takes blocks of any size and has a file to give: ":MMEM:DATA?" is answered with a block, every other
-// query with "1".
+// A peer on a raw socket that takes blocks of any size and has a file to give.
 #pragma once
 
 #include <cstdint>
 #include <string>
-#include <thread>
-#include <vector>
+
+#include "Answers.h"
+#include "Listener.h"
 
 namespace bench {
 
 class FilePeer {
  public:
-  explicit FilePeer(std::size_t file_size);
-  ~FilePeer();
-  FilePeer(const FilePeer&) = delete;
-  FilePeer& operator=(const FilePeer&) = delete;
+  explicit FilePeer(std::size_t file_size)
+      : answers_(file_size), listener_([this](int connection) { Serve(connection); }) {}
 
-  std::uint16_t port() const { return port_; }
-  std::string resource() const { return "TCPIP0::127.0.0.1::" + std::to_string(port_) + "::SOCKET"; }
+  std::uint16_t port() const { return listener_.port(); }
+  std::string resource() const { return "TCPIP0::127.0.0.1::" + std::to_string(port()) + "::SOCKET"; }
 
  private:
-  void Serve();
-  void ServeOne(int connection) const;
+  void Serve(int connection) const;
 
-  int listener_;
-  std::uint16_t port_ = 0;
-  std::string block_;  // the file as it is answered, header and line feed included
-  std::thread thread_;
+  const Answers answers_;
+  Listener listener_;
 };
 
 }  // namespace bench
