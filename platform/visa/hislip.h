@@ -35,6 +35,7 @@ class HislipTransport final : public Transport {
   ViStatus ReadStatusByte(ViUInt16 protocol, Deadline& deadline, ViUInt16& status_byte) override;
   ViStatus Trigger(ViUInt16 protocol, Deadline& deadline) override;
   ViStatus RemoteLocal(ViUInt16 mode, Deadline& deadline) override;
+  bool DeviceKeepsOthersWaiting() const override { return true; }
   ViStatus LockDevice(const std::string& key, ViUInt32 timeout_ms) override;
   ViStatus UnlockDevice(bool exclusive, ViUInt32 timeout_ms) override;
   ViStatus DeliverServiceRequests(std::function<void()> sink, ViUInt32 timeout_ms) override;

@@ -55,8 +55,8 @@ class Session final : public AttributeOwner {
   void SetHandle(ViSession handle);
   void OnClose() override;
 
-  // Makes one call on the session: one at a time, not while another session holds a lock, with one deadline for all of
-  // it. `body` takes the session and the deadline.
+  // Makes one call on the session: one at a time, not while another session holds a lock that is not the device's
+  // business, with one deadline for all of it. `body` takes the session and the deadline.
   template <class Body>
   ViStatus Call(Body&& body);
 
@@ -111,7 +111,7 @@ template <class Body>
 ViStatus Session::Call(Body&& body) {
   const std::lock_guard one_at_a_time(call_);
   if (closing_.load(std::memory_order_relaxed)) return VI_ERROR_INV_OBJECT;
-  if (!lock_->Admits(holder_)) return VI_ERROR_RSRC_LOCKED;
+  if (!lock_->Admits(holder_) && !transport().DeviceKeepsOthersWaiting()) return VI_ERROR_RSRC_LOCKED;
   interruption_.BeginCall();
   Deadline deadline(settings_.Timeout());
   return body(*this, deadline);

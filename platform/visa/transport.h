@@ -56,6 +56,8 @@ class Transport {
   // False: the protocol has no locks, those inside this process stand by themselves, and the two calls below are never
   // made.
   virtual bool HasDeviceLocks() const { return true; }
+  // True: who has no lock is kept waiting by the device, and served where none is needed; so he is not refused here.
+  virtual bool DeviceKeepsOthersWaiting() const { return false; }
   // Locks at the device. An empty key asks for the exclusive lock. Called for the outermost level only; nesting is
   // counted by the session. The exclusive lock may be asked for on top of the shared one, and goes first.
   virtual ViStatus LockDevice(const std::string& /*key*/, ViUInt32 /*timeout_ms*/) { return VI_SUCCESS; }

@@ -213,6 +213,26 @@ TEST_F(HislipInstrument, ALockOfOneProgramKeepsAnotherOut) {
   EXPECT_EQ(VI_SUCCESS, viUnlock(vi));
 }
 
+TEST_F(HislipInstrument, WithoutTheLockASessionWaitsAtTheDeviceAndStillHasItsStatusAndItsClear) {
+  const ViSession holder = Open();
+  const ViSession other = Open();
+  ASSERT_EQ(VI_SUCCESS, viLock(holder, VI_EXCLUSIVE_LOCK, 1000, nullptr, nullptr));
+  ViUInt16 status = 0xFFFF;
+  EXPECT_EQ(VI_SUCCESS, viReadSTB(other, &status));
+  EXPECT_EQ(0, status);
+  EXPECT_EQ(VI_SUCCESS, viClear(other));
+  ASSERT_EQ(VI_SUCCESS, viSetAttribute(other, VI_ATTR_TMO_VALUE, 100));
+  EXPECT_EQ(VI_SUCCESS, viPrintf(other, ":POW -2;:POW?\n"));
+  ViReal64 power = 0.0;
+  EXPECT_EQ(VI_ERROR_TMO, viScanf(other, "%lf%*t", &power));
+  EXPECT_EQ(VI_SUCCESS, viQueryf(holder, ":POW -20;:POW?\n", "%lf", &power));
+  EXPECT_EQ(-20.0, power);
+  EXPECT_EQ(VI_SUCCESS, viUnlock(holder));
+  ASSERT_EQ(VI_SUCCESS, viSetAttribute(other, VI_ATTR_TMO_VALUE, 2000));
+  EXPECT_EQ(VI_SUCCESS, viScanf(other, "%lf%*t", &power));
+  EXPECT_EQ(-2.0, power);
+}
+
 TEST_F(HislipInstrument, AServiceRequestComesWhileQuestionsGoOn) {
   Interruption interruption;
   const auto link = OpenTransport(interruption);
