@@ -288,8 +288,7 @@ ViStatus Vxi11Transport::StartInterrupts(Deadline& deadline) {
     int none = 0;
     Tell(DESTROY_INTR_CHAN, NoArguments, none, deadline);
   }
-  constexpr std::array<ViByte, 4> kHandle{'S', 'R', 'Q', '1'};
-  auto server = std::make_shared<InterruptServer>(kHandle);
+  auto server = std::make_shared<InterruptServer>(core_.stream().PeerAddress());
   ViStatus status = server->Start(*own_address);
   if (status >= 0) {
     Device_RemoteFunc channel{ntohl(own_address->s_addr), server->port(), DEVICE_INTR, DEVICE_INTR_VERSION, DEVICE_TCP};

@@ -5,7 +5,8 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <array>
+#include <cstring>
+#include <random>
 #include <system_error>
 
 #include "xdr/vxi11.h"
@@ -21,7 +22,19 @@ constexpr ViUInt32 kPatience = 500;
 
 bool_t NoResults(XDR*, ...) { return TRUE; }
 
+std::array<ViByte, 16> NewHandle() {
+  std::random_device random;
+  std::array<std::random_device::result_type, 4> words;
+  std::generate(words.begin(), words.end(), std::ref(random));
+  std::array<ViByte, 16> handle;
+  static_assert(sizeof words == sizeof handle);
+  std::memcpy(handle.data(), words.data(), sizeof handle);
+  return handle;
+}
+
 }  // namespace
+
+InterruptServer::InterruptServer(std::string device) : device_(std::move(device)), handle_(NewHandle()) {}
 
 InterruptServer::~InterruptServer() {
   if (listener_ >= 0) ::close(listener_);
@@ -88,9 +101,11 @@ void InterruptServer::Admit() {
     ::poll(&wait, 1, 50);
     return;
   }
+  auto caller = std::make_unique<RecordStream>(wake_, kBufferSize);
+  caller->stream().Adopt(socket);
+  if (caller->stream().PeerAddress() != device_) return;
   if (callers_.size() == kMostCallers) callers_.erase(callers_.begin());
-  callers_.push_back(std::make_unique<RecordStream>(wake_, kBufferSize));
-  callers_.back()->stream().Adopt(socket);
+  callers_.push_back(std::move(caller));
 }
 
 bool InterruptServer::Serve(RecordStream& caller) {

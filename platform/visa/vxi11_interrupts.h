@@ -4,11 +4,13 @@
 #include <netinet/in.h>
 #include <visa.h>
 
+#include <array>
 #include <atomic>
 #include <functional>
 #include <memory>
 #include <mutex>
 #include <span>
+#include <string>
 #include <thread>
 #include <vector>
 
@@ -17,11 +19,12 @@
 
 namespace tvr::visa::vxi11 {
 
-// A thread of its own takes the device's calls, and calls the sink for those that bear the handle. It lets go of every
-// caller that does not speak the protocol.
+// A thread of its own takes the device's calls, and calls the sink for those that bear the handle, which nobody can
+// guess. It lets go of every caller that comes from elsewhere or does not speak the protocol.
 class InterruptServer : public std::enable_shared_from_this<InterruptServer> {
  public:
-  explicit InterruptServer(std::span<const ViByte> handle) : handle_(handle.begin(), handle.end()) {}
+  // The device's address, in digits.
+  explicit InterruptServer(std::string device);
   ~InterruptServer();
 
   // Listens at that address of this machine, on a port that the system picks.
@@ -42,7 +45,8 @@ class InterruptServer : public std::enable_shared_from_this<InterruptServer> {
   bool Answer(RecordStream& caller, const rpc_msg& call, int accept_status);
   void CallSink();
 
-  const std::vector<ViByte> handle_;
+  const std::string device_;
+  const std::array<ViByte, 16> handle_;
   ViUInt16 port_ = 0;
   int listener_ = -1;
   Interruption wake_;
