@@ -100,7 +100,7 @@ TEST_P(Vxi11Flood, DoesNotStretchTheTimeout) {
   EXPECT_EQ(VI_ERROR_TMO, status_);
   EXPECT_LT(watch.Milliseconds(), 250);
   stop = true;
-  link_->HangUp();
+  link_.reset();
   device.join();
 }
 
