@@ -5,6 +5,8 @@
 #include <asio/write.hpp>
 #include <cstring>
 
+#include "link/connection.h"
+
 namespace siggen::link::hislip {
 namespace {
 
@@ -14,10 +16,7 @@ constexpr std::size_t kTooManyOutgoing = 256;
 
 }  // namespace
 
-Channel::Channel(asio::ip::tcp::socket socket) : socket_(std::move(socket)) {
-  asio::error_code ignored;
-  socket_.set_option(asio::ip::tcp::no_delay(true), ignored);
-}
+Channel::Channel(asio::ip::tcp::socket socket) : socket_(std::move(socket)) { SendAtOnce(socket_); }
 
 void Channel::Resume() {
   if (!advancing_ && !reading_) Advance();
@@ -158,17 +157,13 @@ void Channel::Forget() {
 }
 
 void Channel::Close() {
-  asio::error_code ignored;
   Forget();
-  socket_.shutdown(asio::ip::tcp::socket::shutdown_both, ignored);
-  socket_.close(ignored);
+  CloseConnection(socket_);
 }
 
 void Channel::Reset() {
-  asio::error_code ignored;
-  socket_.set_option(asio::socket_base::linger(true, 0), ignored);
   Forget();
-  socket_.close(ignored);
+  ResetConnection(socket_);
 }
 
 }  // namespace siggen::link::hislip

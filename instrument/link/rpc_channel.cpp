@@ -5,6 +5,8 @@
 #include <asio/write.hpp>
 #include <cstring>
 
+#include "link/connection.h"
+
 namespace siggen::link::rpc {
 namespace {
 
@@ -32,8 +34,7 @@ std::array<unsigned char, kMarkSize> Mark(std::size_t length) {
 
 Channel::Channel(asio::ip::tcp::socket socket, std::size_t longest_record)
     : socket_(std::move(socket)), longest_record_(longest_record) {
-  asio::error_code ignored;
-  socket_.set_option(asio::ip::tcp::no_delay(true), ignored);
+  SendAtOnce(socket_);
 }
 
 void Channel::Resume() {
@@ -188,17 +189,13 @@ void Channel::Forget() {
 }
 
 void Channel::Close() {
-  asio::error_code ignored;
   Forget();
-  socket_.shutdown(asio::ip::tcp::socket::shutdown_both, ignored);
-  socket_.close(ignored);
+  CloseConnection(socket_);
 }
 
 void Channel::Reset() {
-  asio::error_code ignored;
-  socket_.set_option(asio::socket_base::linger(true, 0), ignored);
   Forget();
-  socket_.close(ignored);
+  ResetConnection(socket_);
 }
 
 }  // namespace siggen::link::rpc

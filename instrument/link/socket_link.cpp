@@ -4,6 +4,8 @@
 #include <asio/error.hpp>
 #include <asio/write.hpp>
 
+#include "link/connection.h"
+
 namespace siggen::link {
 namespace {
 
@@ -16,8 +18,7 @@ SocketLink::SocketLink(asio::ip::tcp::socket socket, Services& services)
     : socket_(std::move(socket)), services_(services), delay_(services.io()), session_(services.instrument()) {}
 
 void SocketLink::Start() {
-  asio::error_code ignored;
-  socket_.set_option(asio::ip::tcp::no_delay(true), ignored);
+  SendAtOnce(socket_);
   Read();
 }
 
@@ -97,18 +98,14 @@ void SocketLink::Write(bool close_behind) {
 }
 
 void SocketLink::Close() {
-  asio::error_code ignored;
   delay_.cancel();
   session_.Clear();
-  socket_.shutdown(asio::ip::tcp::socket::shutdown_both, ignored);
-  socket_.close(ignored);
+  CloseConnection(socket_);
 }
 
 void SocketLink::Reset() {
-  asio::error_code ignored;
-  socket_.set_option(asio::socket_base::linger(true, 0), ignored);
   session_.Clear();
-  socket_.close(ignored);
+  ResetConnection(socket_);
 }
 
 }  // namespace siggen::link
