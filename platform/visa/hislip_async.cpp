@@ -62,10 +62,11 @@ ViStatus AsyncChannel::Ask(const Question& question, Deadline& deadline, Answer&
       TakeUnanswered(question.answer);
       continue;
     }
-    if (const ViStatus status = Meet(header, deadline); status < 0) return status;
-    if (deadline.Expired()) {
+    ViStatus status = Meet(header, deadline);
+    if (status >= 0 && deadline.Expired()) status = VI_ERROR_TMO;
+    if (status < 0) {
       GiveUp(question);
-      return VI_ERROR_TMO;
+      return status;
     }
   }
 }

@@ -14,6 +14,9 @@ if(TARGET kvtd_test_support)
   kvtd_test(visa_hislip_cost_test SOURCES hislip_cost_test.cpp LIBS visa_hislip_peer LABELS visa hislip)
   target_link_options(visa_hislip_cost_test PRIVATE -Wl,--wrap=sendmsg,--wrap=recv,--wrap=poll)
 
+  kvtd_test(visa_hislip_full_test SOURCES hislip_full_test.cpp LIBS visa_hislip_peer LABELS visa hislip)
+  target_link_options(visa_hislip_full_test PRIVATE -Wl,--wrap=send)
+
   if(TARGET td481x2c-instrument)
     kvtd_test(visa_hislip_instrument_test
       SOURCES hislip_instrument_test.cpp LIBS visa_hislip_peer LABELS visa instrument hislip)
