@@ -98,7 +98,7 @@ ViStatus SocketTransport::ReadToTermchar(const ReadRequest& request, Deadline& d
     const ViStatus status = stream_.Receive(next, std::min(request.room - received, kMostAhead), 1, deadline, count);
     bool found = false;
     const std::size_t wanted = ThroughTermchar(next, count, request.termchar, found);
-    ahead_.insert(ahead_.end(), next + wanted, next + count);
+    if (wanted < count) ahead_.insert(ahead_.end(), next + wanted, next + count);
     received += wanted;
     if (found) return VI_SUCCESS_TERM_CHAR;
     if (status < 0) return status;

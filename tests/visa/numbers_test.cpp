@@ -9,12 +9,14 @@
 #include <cstdlib>
 #include <limits>
 #include <random>
+#include <string>
 #include <string_view>
 
 #include "deadline.h"
 #include "format/fixed_point.h"
 #include "format/number_scan.h"
 #include "format/number_text.h"
+#include "format/short_decimal.h"
 
 namespace visa_test {
 namespace {
@@ -167,6 +169,41 @@ TEST(ScannedReal, EqualsTheCLibraryOnManyTexts) {
     ASSERT_EQ(std::strtod(text.data(), nullptr), number.As<double>()) << text.data();
     ASSERT_TRUE(stream.ended()) << text.data();
   }
+}
+
+TEST(ShortDecimal, EqualsTheCLibraryOnAMillionTexts) {
+  std::mt19937_64 random(7);
+  std::array<char, 64> text;
+  for (int i = 0; i < kRounds; ++i) {
+    // Up to fifteen digits, the point anywhere among them.
+    std::string digits = std::to_string(random()).substr(0, random() % 15 + 1);
+    const auto places = random() % (digits.size() + 1);
+    if (places > 0) digits.insert(digits.size() - places, 1, '.');
+    const int length = std::snprintf(text.data(), text.size(), "%s%s", i % 2 == 0 ? "" : "-", digits.c_str());
+    const char* const end = text.data() + length;
+    double value = 0.0;
+    ASSERT_EQ(end, ScanShortDecimal(text.data(), end, value)) << text.data();
+    const double wanted = std::strtod(text.data(), nullptr);
+    ASSERT_EQ(std::bit_cast<std::uint64_t>(wanted), std::bit_cast<std::uint64_t>(value)) << text.data();
+  }
+}
+
+TEST(ShortDecimal, LeavesWhatIsLongOrNoNumber) {
+  const auto scan = [](std::string_view text) {
+    double value = 0.0;
+    const char* const end = ScanShortDecimal(text.data(), text.data() + text.size(), value);
+    return end == nullptr ? std::string("left") : std::string(text.data(), end) + " is " + std::to_string(value);
+  };
+  EXPECT_EQ("123456789012345 is 123456789012345.000000", scan("123456789012345"));
+  EXPECT_EQ("left", scan("1234567890123456"));
+  EXPECT_EQ("left", scan("0.000000000000001"));
+  EXPECT_EQ("left", scan(""));
+  EXPECT_EQ("left", scan("-"));
+  EXPECT_EQ("left", scan("-."));
+  EXPECT_EQ("left", scan("NAN"));
+  EXPECT_EQ("1. is 1.000000", scan("1.,2"));
+  EXPECT_EQ("1.5 is 1.500000", scan("1.5.5"));
+  EXPECT_EQ("-0 is -0.000000", scan("-0\n"));
 }
 
 TEST(ScannedReal, ComesBackFromWhatWasWrittenWithSeventeenDigits) {

@@ -1,10 +1,57 @@
 #include "format/directive.h"
 
+#include <array>
 #include <cstring>
 #include <string_view>
 
 namespace tvr::visa {
 namespace {
+
+// By character, for one direction: both have the codes of numbers, and %n.
+class Codes {
+ public:
+  constexpr Codes(std::string_view texts, std::string_view blocks) {
+    Set("diouxX", Kind::kInteger);
+    Set("feEgG", Kind::kReal);
+    Set("n", Kind::kCount);
+    Set(texts, Kind::kText);
+    Set(blocks, Kind::kBlock);
+  }
+  Kind operator[](char code) const {
+    const auto at = static_cast<unsigned char>(code);
+    return at < kinds_.size() ? kinds_[at] : Kind::kNone;
+  }
+
+ private:
+  constexpr void Set(std::string_view codes, Kind kind) {
+    for (const char code : codes) kinds_[static_cast<unsigned char>(code)] = kind;
+  }
+  std::array<Kind, 128> kinds_{};
+};
+
+constexpr Codes kWriteCodes("csp", "bBy");
+constexpr Codes kReadCodes("cstT[", "by");
+
+constexpr unsigned Bit(Length length) { return 1U << static_cast<unsigned>(length); }
+
+constexpr unsigned LengthsOf(Kind kind) {
+  switch (kind) {
+    case Kind::kInteger:
+    case Kind::kCount:
+      return Bit(Length::kNone) | Bit(Length::kH) | Bit(Length::kL) | Bit(Length::kLL);
+    case Kind::kReal:
+      return Bit(Length::kNone) | Bit(Length::kL) | Bit(Length::kLongDouble);
+    case Kind::kBlock:
+      return ~Bit(Length::kLongDouble);
+    case Kind::kText:
+      return Bit(Length::kNone);
+    case Kind::kNone:
+      break;
+  }
+  return 0;
+}
+
+bool LengthFits(Kind kind, Length length) { return (LengthsOf(kind) & Bit(length)) != 0; }
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
@@ -57,20 +104,7 @@ bool TakeByteOrder(const char*& format, bool& given, bool& little_endian) {
   return true;
 }
 
-bool IsBlockLength(Length length) { return length != Length::kLongDouble; }
-bool IsIntegerLength(Length length) {
-  return length == Length::kNone || length == Length::kH || length == Length::kL || length == Length::kLL;
-}
-bool IsRealLength(Length length) {
-  return length == Length::kNone || length == Length::kL || length == Length::kLongDouble;
-}
-
-bool LengthFits(char code, Length length) {
-  if (IsIntegerCode(code) || code == 'n') return IsIntegerLength(length);
-  if (IsRealCode(code)) return IsRealLength(length);
-  if (IsBlockCode(code)) return IsBlockLength(length);
-  return length == Length::kNone;
-}
+bool IsNumber(Kind kind) { return kind == Kind::kInteger || kind == Kind::kReal; }
 
 bool TakeFlags(const char*& format, WriteDirective& directive) {
   for (;; ++format) {
@@ -106,13 +140,46 @@ bool TakeFlags(const char*& format, WriteDirective& directive) {
 
 bool PartsFit(const WriteDirective& directive) {
   const bool any_flag = directive.left || directive.plus || directive.blank || directive.zero || directive.alternative;
-  const bool number = IsIntegerCode(directive.code) || IsRealCode(directive.code);
+  const bool number = IsNumber(directive.kind);
   if (!number && (directive.form != NumberForm::kAnsi || directive.size.given != Given::kNot)) return false;
   if (number || directive.code == 's') return true;
-  if (IsBlockCode(directive.code)) {
+  if (directive.kind == Kind::kBlock) {
     return !any_flag && directive.precision.given == Given::kNot && directive.width.given != Given::kNot;
   }
   return directive.precision.given == Given::kNot;  // c, p, n
+}
+
+bool TakeReadAmounts(const char*& format, ReadDirective& directive) {
+  if (!TakeAmount(format, '#', directive.width)) return false;
+  if (*format != ',') return true;
+  ++format;
+  return TakeAmount(format, '#', directive.size) && directive.size.given != Given::kNot;
+}
+
+bool AmountsFit(const ReadDirective& directive) {
+  const bool number = IsNumber(directive.kind);
+  if (directive.width.given == Given::kInFormat && directive.width.value == 0) return false;
+  if (!number && directive.size.given != Given::kNot) return false;
+  // A number's width by pointer would have to be stored back into, and has no published meaning; nor has any of %n.
+  if (number && directive.width.given == Given::kAsArgument) return false;
+  if (directive.kind == Kind::kCount && directive.width.given != Given::kNot) return false;
+  // Discarding takes no argument, so its size must stand in the format.
+  return !directive.suppressed ||
+         (directive.width.given != Given::kAsArgument && directive.size.given != Given::kAsArgument);
+}
+
+// The set ends at the first bracket that is not its first character.
+bool TakeSet(const char*& format, ReadDirective& directive) {
+  directive.set = format;
+  if (*format == '^') ++format;
+  if (*format == ']') ++format;
+  while (*format != '\0' && *format != ']') {
+    if (*format == '\\' && format[1] != '\0') ++format;
+    ++format;
+  }
+  if (*format == '\0') return false;
+  ++format;
+  return true;
 }
 
 }  // namespace
@@ -134,9 +201,10 @@ bool ParseWriteDirective(const char*& format, WriteDirective& directive) {
   directive.length = TakeLength(format);
   if (!TakeByteOrder(format, ordered, directive.little_endian)) return false;
   directive.code = *format;
-  if (directive.code == '\0' || std::strchr("diouxXfeEgGcspnbBy", directive.code) == nullptr) return false;
+  directive.kind = kWriteCodes[directive.code];
+  if (!LengthFits(directive.kind, directive.length)) return false;
   ++format;
-  return LengthFits(directive.code, directive.length) && PartsFit(directive) && (!ordered || directive.code == 'y');
+  return PartsFit(directive) && (!ordered || directive.code == 'y');
 }
 
 bool ParseReadDirective(const char*& format, ReadDirective& directive) {
@@ -144,45 +212,22 @@ bool ParseReadDirective(const char*& format, ReadDirective& directive) {
     ++format;
     directive.suppressed = true;
   }
-  if (!TakeAmount(format, '#', directive.width)) return false;
-  if (*format == ',') {
-    ++format;
-    if (!TakeAmount(format, '#', directive.size) || directive.size.given == Given::kNot) return false;
-  }
+  // Whatever may stand in front of a length lies before the letters. Most directives have none of it, and every query
+  // comes this way.
+  const bool bare = *format >= 'A';
   bool ordered = false;
-  if (!TakeByteOrder(format, ordered, directive.little_endian)) return false;
-  directive.length = TakeLength(format);
-  if (!TakeByteOrder(format, ordered, directive.little_endian)) return false;
-  directive.code = *format;
-  if (directive.code == '\0' || std::strchr("diouxXfeEgGcstTnby[", directive.code) == nullptr) return false;
-  ++format;
-
-  const bool number = IsIntegerCode(directive.code) || IsRealCode(directive.code);
-  const bool empty = directive.width.given == Given::kInFormat && directive.width.value == 0;
-  if (empty || !LengthFits(directive.code, directive.length) || (ordered && directive.code != 'y')) return false;
-  if (!number && directive.size.given != Given::kNot) return false;
-  // A number's width by pointer would have to be stored back into, and has no published meaning; nor has any of %n.
-  if (number && directive.width.given == Given::kAsArgument) return false;
-  if (directive.code == 'n' && directive.width.given != Given::kNot) return false;
-  // Discarding takes no argument, so its size must stand in the format.
-  if (directive.suppressed &&
-      (directive.width.given == Given::kAsArgument || directive.size.given == Given::kAsArgument))
+  if (!bare && !(TakeReadAmounts(format, directive) && TakeByteOrder(format, ordered, directive.little_endian))) {
     return false;
-  const bool block = directive.code == 'b' || directive.code == 'y';
-  if (block && !directive.suppressed && directive.width.given == Given::kNot) return false;
-  if (directive.code != '[') return true;
-
-  // The set ends at the first bracket that is not its first character.
-  directive.set = format;
-  if (*format == '^') ++format;
-  if (*format == ']') ++format;
-  while (*format != '\0' && *format != ']') {
-    if (*format == '\\' && format[1] != '\0') ++format;
-    ++format;
   }
-  if (*format == '\0') return false;
+  directive.length = TakeLength(format);
+  if (*format == '!' && !TakeByteOrder(format, ordered, directive.little_endian)) return false;
+  directive.code = *format;
+  directive.kind = kReadCodes[directive.code];
+  if (!LengthFits(directive.kind, directive.length) || (ordered && directive.code != 'y')) return false;
   ++format;
-  return true;
+  if (!bare && !AmountsFit(directive)) return false;
+  if (directive.kind == Kind::kBlock && !directive.suppressed && directive.width.given == Given::kNot) return false;
+  return directive.code != '[' || TakeSet(format, directive);
 }
 
 ViByte ParseEscape(const char*& format) {

@@ -12,6 +12,9 @@ namespace tvr::visa {
 
 enum class Length : unsigned char { kNone, kH, kL, kLL, kLongDouble, kSingle, kDouble };
 
+// What a code converts; kNone for a character that is no code.
+enum class Kind : unsigned char { kNone, kInteger, kReal, kText, kBlock, kCount };
+
 // How the number in a directive is given.
 enum class Given : unsigned char { kNot, kInFormat, kAsArgument };
 
@@ -28,6 +31,7 @@ struct WriteDirective {
   Amount width, precision, size;
   Length length = Length::kNone;
   bool little_endian = false;
+  Kind kind = Kind::kNone;
   char code = 0;
 };
 
@@ -36,6 +40,7 @@ struct ReadDirective {
   Amount width, size;
   Length length = Length::kNone;
   bool little_endian = false;
+  Kind kind = Kind::kNone;
   char code = 0;
   const char* set = nullptr;  // for [: behind the bracket
 };
@@ -49,12 +54,6 @@ bool ParseReadDirective(const char*& format, ReadDirective& directive);
 
 // `format` stands behind a backslash and is moved behind the escape.
 ViByte ParseEscape(const char*& format);
-
-constexpr bool IsIntegerCode(char code) {
-  return code == 'd' || code == 'i' || code == 'o' || code == 'u' || code == 'x' || code == 'X';
-}
-constexpr bool IsRealCode(char code) { return code == 'f' || code == 'e' || code == 'E' || code == 'g' || code == 'G'; }
-constexpr bool IsBlockCode(char code) { return code == 'b' || code == 'B' || code == 'y'; }
 
 // Bytes per element of a block.
 constexpr std::size_t BlockElementSize(Length length) {

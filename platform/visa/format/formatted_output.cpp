@@ -61,9 +61,16 @@ void FormattedOutput::AppendBlock(const void* data, std::size_t size) {
   used_ += size;
 }
 
-void FormattedOutput::EndMessage() {
-  Append('\n');
-  if (link_ != nullptr) Send(true);
+void FormattedOutput::EndMessage(std::string_view last) {
+  if (link_ == nullptr || used_ > 0 || !blocks_.empty()) {
+    Append(last);
+    if (link_ != nullptr) Send(true);
+    return;
+  }
+  iovec piece{const_cast<char*>(last.data()), last.size()};
+  std::size_t sent = 0;
+  status_ = link_->Write({&piece, 1}, true, *deadline_, sent);
+  sent_in_call_ += sent;
 }
 
 void FormattedOutput::Flush(bool end) {

@@ -36,8 +36,8 @@ class FormattedOutput {
   // How many bytes the call has appended, sent ones included.
   std::size_t CountOfCall() const { return sent_in_call_ + Pending() - pending_before_; }
 
-  // A line feed with END.
-  void EndMessage();
+  // The last of a message, with END on its line feed. It goes from where it lies when nothing stands in front of it.
+  void EndMessage(std::string_view last = "\n");
   void Flush(bool end);
   void Discard();
 

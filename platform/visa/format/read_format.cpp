@@ -11,6 +11,7 @@
 #include "format/directive.h"
 #include "format/number_scan.h"
 #include "format/scan_set.h"
+#include "format/short_decimal.h"
 
 namespace tvr::visa {
 namespace {
@@ -85,7 +86,7 @@ bool Reader::LeavesNumberOut(const char* format) {
     }
     ReadDirective directive;
     if (!ParseReadDirective(format, directive)) return false;
-    const bool number = IsIntegerCode(directive.code) || IsRealCode(directive.code);
+    const bool number = directive.kind == Kind::kInteger || directive.kind == Kind::kReal;
     if (number && !directive.suppressed && directive.size.given == Given::kNot) return true;
   }
   return false;
@@ -103,12 +104,13 @@ ViStatus Reader::Literal(ViByte wanted) {
 }
 
 ViStatus Reader::Convert(const ReadDirective& directive) {
-  if (IsIntegerCode(directive.code) || IsRealCode(directive.code)) return ConvertNumbers(directive);
-  switch (directive.code) {
-    case 'b':
-    case 'y':
+  switch (directive.kind) {
+    case Kind::kInteger:
+    case Kind::kReal:
+      return ConvertNumbers(directive);
+    case Kind::kBlock:
       return ReadBlock(directive, args_, in_);
-    case 'n':
+    case Kind::kCount:
       return StoreCount(directive);
     default:
       return ConvertText(directive);
@@ -197,8 +199,14 @@ bool TakePlainNumber(ReadStream& in, Element& value) {
   const char* const digit = window.data() + (window.starts_with('-') ? 1 : 0);
   if (digit == last || *digit < '0' || *digit > '9') return false;
   Element found{};
-  const auto [end, error] = std::from_chars(window.data(), last, found);
-  if (error != std::errc() || end == last) return false;
+  const char* end = nullptr;
+  if constexpr (std::is_same_v<Element, double>) end = ScanShortDecimal(window.data(), last, found);
+  if (end == nullptr || (end != last && (*end == 'e' || *end == 'E'))) {
+    const auto result = std::from_chars(window.data(), last, found);
+    if (result.ec != std::errc()) return false;
+    end = result.ptr;
+  }
+  if (end == last) return false;
   if (*end == 'e' || *end == 'E' || (std::is_integral_v<Element> && *end == '.')) return false;
   in.TakeMany(static_cast<std::size_t>(end - window.data()));
   value = found;
@@ -261,7 +269,7 @@ ViStatus Reader::Numbers(const ReadDirective& directive) {
 
 ViStatus Reader::ConvertNumbers(const ReadDirective& directive) {
   const Length length = directive.length;
-  if (IsRealCode(directive.code)) {
+  if (directive.kind == Kind::kReal) {
     if (length == Length::kLongDouble) return Numbers<long double>(directive);
     return length == Length::kL ? Numbers<double>(directive) : Numbers<float>(directive);
   }

@@ -57,6 +57,10 @@ class Writer {
 ViStatus Writer::Write(const char* format) {
   for (;;) {
     const std::size_t plain = std::strcspn(format, "%\\\n");
+    if (format[plain] == '\n' && format[plain + 1] == '\0') {
+      out_.EndMessage({format, plain + 1});
+      return out_.status();
+    }
     if (plain > 0) out_.Append(std::string_view(format, plain));
     format += plain;
     const char special = *format;
@@ -91,7 +95,7 @@ bool Writer::Resolve(const Amount& amount, int absent, int& value) {
 }
 
 ViStatus Writer::Convert(const WriteDirective& directive) {
-  if (IsBlockCode(directive.code)) {
+  if (directive.kind == Kind::kBlock) {
     // The count of a block is a count of elements in memory: only an int's own range bounds it.
     const int count = directive.width.given == Given::kInFormat ? directive.width.value : args_.Next<int>();
     return count < 0 ? VI_ERROR_INV_FMT : ConvertBlock(directive, count);
@@ -108,8 +112,8 @@ ViStatus Writer::Convert(const WriteDirective& directive) {
   const int count = directive.size.given == Given::kAsArgument ? args_.Next<int>() : directive.size.value;
   if (count < 0) return VI_ERROR_INV_FMT;
   const NumberFormat format{directive, left, width, precision};
-  if (IsIntegerCode(directive.code)) return ConvertIntegers(format, array, count);
-  if (IsRealCode(directive.code)) return ConvertReals(format, array, count);
+  if (directive.kind == Kind::kInteger) return ConvertIntegers(format, array, count);
+  if (directive.kind == Kind::kReal) return ConvertReals(format, array, count);
   return ConvertText(directive, left, width, precision);
 }
 
