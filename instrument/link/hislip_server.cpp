@@ -1,13 +1,12 @@
 #include "link/hislip_server.h"
 
-#include <algorithm>
 #include <asio/steady_timer.hpp>
-#include <cctype>
 #include <chrono>
 #include <map>
 #include <set>
 
 #include "link/acceptor.h"
+#include "link/device_name.h"
 #include "link/hislip_channel.h"
 #include "link/hislip_session.h"
 
@@ -22,11 +21,7 @@ constexpr std::size_t kMostClients = 16;
 constexpr std::size_t kMostGuests = 32;
 constexpr std::chrono::seconds kPatienceForGreeting{10};
 
-bool IsOurName(std::string name) {
-  std::transform(name.begin(), name.end(), name.begin(),
-                 [](char c) { return static_cast<char>(std::tolower(static_cast<unsigned char>(c))); });
-  return name.empty() || name == "hislip0";
-}
+bool IsOurName(std::string_view name) { return name.empty() || IsDeviceName(name, "hislip0"); }
 
 }  // namespace
 

@@ -1,20 +1,14 @@
 #include "link/vxi11_session.h"
 
-#include <algorithm>
-#include <cctype>
 #include <utility>
+
+#include "link/device_name.h"
 
 namespace siggen::link::vxi11 {
 namespace {
 
 using Clock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
-
-bool IsOurName(std::string name) {
-  std::transform(name.begin(), name.end(), name.begin(),
-                 [](char c) { return static_cast<char>(std::tolower(static_cast<unsigned char>(c))); });
-  return name == "inst0";
-}
 
 }  // namespace
 
@@ -80,7 +74,7 @@ void Session::With(const rpc::Call& call, rpc::Coder<Parms> coder, void (Session
 }
 
 void Session::CreateLink(const Create_LinkParms& parms) {
-  if (!IsOurName(parms.device)) return LinkCreated(Error::kNotAccessible, nullptr);
+  if (!IsDeviceName(parms.device, "inst0")) return LinkCreated(Error::kNotAccessible, nullptr);
   const auto id = hall_.NewLinkId();
   if (!id) return LinkCreated(Error::kOutOfResources, nullptr);
   const auto link = std::make_shared<DeviceLink>(services_, *this, *id);

@@ -5,8 +5,6 @@ using namespace tvr::visa;
 
 namespace {
 
-constexpr unsigned kCallback = VI_HNDLR | VI_SUSPEND_HNDLR;
-
 bool AreAmong(ViUInt16 mechanism, unsigned known) { return mechanism != 0 && (mechanism & ~known) == 0; }
 
 bool Means(ViEventType type, const EventQueue* events) { return type == VI_EVENT_SERVICE_REQ && events != nullptr; }

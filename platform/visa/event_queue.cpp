@@ -10,8 +10,6 @@
 namespace tvr::visa {
 namespace {
 
-constexpr unsigned kCallback = VI_HNDLR | VI_SUSPEND_HNDLR;
-
 class EventContext final : public ManagedObject {
  public:
   ViStatus GetAttribute(ViAttr attribute, void* value) override {

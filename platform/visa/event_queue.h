@@ -11,6 +11,9 @@
 
 namespace tvr::visa {
 
+// The mechanisms that call handlers: now, or when they are let go.
+inline constexpr unsigned kCallback = VI_HNDLR | VI_SUSPEND_HNDLR;
+
 // One occurrence is like the other, so a queue is a number. There are two: what viWaitOnEvent takes, and what the
 // handlers are still to be called for. Both end at the length, and what comes then is lost.
 //
