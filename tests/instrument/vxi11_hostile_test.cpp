@@ -149,12 +149,22 @@ TEST_F(Vxi11Hostile, AClientThatEndsWhileItsCallIsUnderWayIsForgotten) {
 }
 
 TEST_F(Vxi11Hostile, AClientThatTakesNoAnswersHoldsNobodyUp) {
+  constexpr std::size_t kFile = 0x80000;
+  // More than the connection holds on its way.
+  constexpr std::size_t kAnswers = 64;
   Vxi11Client deaf(instrument_.port());
   Vxi11Client other(instrument_.port());
+  deaf.Write("00000001", ":MMEM:DATA \"Internal\",\"f\",#6" + std::to_string(kFile) + std::string(kFile, 'f'));
   std::string calls;
-  for (int i = 0; i < 2000; ++i) calls += Call("00000000", "");
+  for (std::size_t i = 0; i < kAnswers; ++i) {
+    calls += Call("0000000B", "00000001 000007D0 00000000 00000008 0000001A ':MMEM:DATA? \"Internal\",\"f\"' 0000");
+    calls += Call("0000000C", "00000001 FFFFFFFF 000007D0 00000000 00000000 00000000");
+  }
   deaf.Send(calls);
   EXPECT_EQ("1\n", other.Ask("00000002", "*OPC?"));
+  // Two replies, the block with its header and line feed, and what fills up its last word.
+  constexpr std::size_t kReplies = 36 + 40 + kFile + 8 + 1 + 3;
+  EXPECT_EQ(kAnswers * kReplies, deaf.ReceiveBytes(kAnswers * kReplies).size()) << "when he takes them after all";
 }
 
 TEST_F(Vxi11Hostile, ThereIsAnEndToTheConnections) {

@@ -123,7 +123,8 @@ TEST_F(Handles, WhatIsNoOpenSessionIsRefusedBareByEveryCallAndNothingIsWritten) 
       ++refused;
     }
   }
-  RecordProperty("refused", static_cast<int>(refused));
+  // Near 800 calls with each.
+  EXPECT_LT(700 * outsiders_.size(), refused);
 }
 
 TEST_F(Handles, EveryAttributeMeetsTheHandleInOneOfItsTypes) {
