@@ -12,7 +12,7 @@ import sys
 import xml.etree.ElementTree as xml
 
 HERE = pathlib.Path(__file__).parent
-NOT_RUN = "not run"
+NOT_RUN = "no result"
 
 # Benchmark, its counter, what it measures, the counter of its target.
 RATIOS = [
