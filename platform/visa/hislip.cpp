@@ -33,9 +33,8 @@ iovec PieceOf(const void* bytes, std::size_t size) { return {const_cast<void*>(b
 }  // namespace
 
 HislipTransport::HislipTransport(const ResourceName& resource, Interruption& interruption)
-    : host_(resource.host),
+    : InstrTransport(resource),
       port_(resource.port),
-      device_name_(resource.device_name),
       sync_(interruption, kBufferSize),
       async_(std::make_shared<AsyncChannel>(interruption)),
       most_payload_(PayloadWithin(0)) {
@@ -206,21 +205,14 @@ ViStatus HislipTransport::DeliverServiceRequests(std::function<void()> sink, ViU
 }
 
 ViStatus HislipTransport::GetAttribute(ViAttr attribute, void* value) {
-  const TcpStream& stream = sync_.stream();
   const auto put = [value](bool on) { return PutNumber<ViBoolean>(value, on ? VI_TRUE : VI_FALSE); };
   switch (attribute) {
-    case VI_ATTR_TCPIP_ADDR:
-      return PutText(value, stream.PeerAddress());
-    case VI_ATTR_TCPIP_HOSTNAME:
-      return PutText(value, host_ == stream.PeerAddress() ? "" : host_);
     case VI_ATTR_TCPIP_PORT:
       return PutNumber<ViUInt16>(value, port_);
-    case VI_ATTR_TCPIP_DEVICE_NAME:
-      return PutText(value, device_name_);
     case VI_ATTR_TCPIP_NODELAY:
-      return put(stream.NoDelay());
+      return put(stream().NoDelay());
     case VI_ATTR_TCPIP_KEEPALIVE:
-      return put(stream.KeepAlive());
+      return put(stream().KeepAlive());
     case VI_ATTR_TCPIP_IS_HISLIP:
       return put(true);
     case VI_ATTR_TCPIP_HISLIP_OVERLAP_EN:
@@ -229,12 +221,8 @@ ViStatus HislipTransport::GetAttribute(ViAttr attribute, void* value) {
       return PutNumber<ViVersion>(value, ViVersion{version_} >> 8 << 20 | (ViVersion{version_} & 0xFF) << 8);
     case VI_ATTR_TCPIP_HISLIP_MAX_MESSAGE_KB:
       return PutNumber<ViUInt32>(value, largest_kilobytes_);
-    case VI_ATTR_SUPPRESS_END_EN:
-      return put(suppress_end_);
-    case VI_ATTR_TRIG_ID:
-      return PutNumber<ViInt16>(value, VI_TRIG_SW);
     default:
-      return VI_ERROR_NSUP_ATTR;
+      return InstrTransport::GetAttribute(attribute, value);
   }
 }
 
@@ -243,11 +231,7 @@ ViStatus HislipTransport::SetAttribute(ViAttr attribute, ViAttrState value, ViUI
   const bool on = value == VI_TRUE;
   const bool boolean = value <= VI_TRUE;
   switch (attribute) {
-    case VI_ATTR_TCPIP_ADDR:
-    case VI_ATTR_TCPIP_HOSTNAME:
     case VI_ATTR_TCPIP_PORT:
-    case VI_ATTR_TCPIP_DEVICE_NAME:
-    case VI_ATTR_TCPIP_IS_HISLIP:
     case VI_ATTR_TCPIP_HISLIP_VERSION:
       return VI_ERROR_ATTR_READONLY;
     case VI_ATTR_TCPIP_NODELAY:
@@ -266,14 +250,8 @@ ViStatus HislipTransport::SetAttribute(ViAttr attribute, ViAttrState value, ViUI
     case VI_ATTR_TCPIP_HISLIP_MAX_MESSAGE_KB:
       if (value == 0 || value > kLargestKilobytes) return VI_ERROR_NSUP_ATTR_STATE;
       return Settle(AgreeOnMessageSize(static_cast<ViUInt32>(value), deadline));
-    case VI_ATTR_SUPPRESS_END_EN:
-      if (!boolean) return VI_ERROR_NSUP_ATTR_STATE;
-      suppress_end_ = on;
-      return VI_SUCCESS;
-    case VI_ATTR_TRIG_ID:
-      return static_cast<ViInt16>(value) == VI_TRIG_SW ? VI_SUCCESS : VI_ERROR_NSUP_ATTR_STATE;
     default:
-      return VI_ERROR_NSUP_ATTR;
+      return InstrTransport::SetAttribute(attribute, value, timeout_ms);
   }
 }
 

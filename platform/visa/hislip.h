@@ -16,18 +16,17 @@
 
 #include "hislip_async.h"
 #include "hislip_channel.h"
-#include "transport.h"
+#include "instr_transport.h"
 
 namespace tvr::visa::hislip {
 
-class HislipTransport final : public Transport {
+class HislipTransport final : public InstrTransport {
  public:
   HislipTransport(const ResourceName& resource, Interruption& interruption);
   ~HislipTransport() override;
 
   ViStatus Open(Deadline& deadline);
 
-  bool CarriesEnd() const override { return true; }
   ViStatus Read(const ReadRequest& request, Deadline& deadline, std::size_t& received) override;
   ViStatus Write(std::span<iovec> pieces, bool end, Deadline& deadline, std::size_t& sent) override;
   ViStatus Clear(Deadline& deadline) override { return Settle(ClearInto(overlap_, deadline)); }
@@ -44,6 +43,8 @@ class HislipTransport final : public Transport {
   void HangUp() override;
 
  private:
+  const TcpStream& stream() const override { return sync_.stream(); }
+
   // What becomes of the payload under way. In synchronised mode an answer counts when it bears the id of the last
   // message sent. A device need tell the id only with the last part, so a part before that may have to wait for proof.
   enum class Fate {
@@ -90,16 +91,13 @@ class HislipTransport final : public Transport {
   ViUInt32 LastId() const { return next_id_ - kIdStep; }
   void Restart();
 
-  const std::string host_;
   const ViUInt16 port_;
-  const std::string device_name_;
   Channel sync_;
   std::shared_ptr<AsyncChannel> async_;
 
   ViUInt16 version_ = kVersion;
   // Read by GetAttribute while a call is at work.
   std::atomic<bool> overlap_{false};
-  std::atomic<bool> suppress_end_{false};
   std::atomic<ViUInt32> largest_kilobytes_{1024};
   std::size_t most_payload_;
 

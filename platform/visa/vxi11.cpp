@@ -73,8 +73,7 @@ Deadline Patience(ViUInt32 told_ms) {
 }
 
 Vxi11Transport::Vxi11Transport(const ResourceName& resource, Interruption& interruption)
-    : host_(resource.host),
-      device_name_(resource.device_name),
+    : InstrTransport(resource),
       interruption_(interruption),
       core_(interruption, DEVICE_CORE, DEVICE_CORE_VERSION, kCoreBuffer),
       abort_(interruption, DEVICE_ASYNC, DEVICE_ASYNC_VERSION, kAbortBuffer) {
@@ -323,40 +322,8 @@ ViStatus Vxi11Transport::DeliverServiceRequests(std::function<void()> sink, ViUI
 }
 
 ViStatus Vxi11Transport::GetAttribute(ViAttr attribute, void* value) {
-  switch (attribute) {
-    case VI_ATTR_TCPIP_ADDR:
-      return PutText(value, core_.stream().PeerAddress());
-    case VI_ATTR_TCPIP_HOSTNAME:
-      return PutText(value, host_ == core_.stream().PeerAddress() ? "" : host_);
-    case VI_ATTR_TCPIP_DEVICE_NAME:
-      return PutText(value, device_name_);
-    case VI_ATTR_TCPIP_IS_HISLIP:
-      return PutNumber<ViBoolean>(value, VI_FALSE);
-    case VI_ATTR_SUPPRESS_END_EN:
-      return PutNumber<ViBoolean>(value, suppress_end_ ? VI_TRUE : VI_FALSE);
-    case VI_ATTR_TRIG_ID:
-      return PutNumber<ViInt16>(value, VI_TRIG_SW);
-    default:
-      return VI_ERROR_NSUP_ATTR;
-  }
-}
-
-ViStatus Vxi11Transport::SetAttribute(ViAttr attribute, ViAttrState value, ViUInt32 /*timeout_ms*/) {
-  switch (attribute) {
-    case VI_ATTR_TCPIP_ADDR:
-    case VI_ATTR_TCPIP_HOSTNAME:
-    case VI_ATTR_TCPIP_DEVICE_NAME:
-    case VI_ATTR_TCPIP_IS_HISLIP:
-      return VI_ERROR_ATTR_READONLY;
-    case VI_ATTR_SUPPRESS_END_EN:
-      if (value > VI_TRUE) return VI_ERROR_NSUP_ATTR_STATE;
-      suppress_end_ = value == VI_TRUE;
-      return VI_SUCCESS;
-    case VI_ATTR_TRIG_ID:
-      return static_cast<ViInt16>(value) == VI_TRIG_SW ? VI_SUCCESS : VI_ERROR_NSUP_ATTR_STATE;
-    default:
-      return VI_ERROR_NSUP_ATTR;
-  }
+  if (attribute == VI_ATTR_TCPIP_IS_HISLIP) return PutNumber<ViBoolean>(value, VI_FALSE);
+  return InstrTransport::GetAttribute(attribute, value);
 }
 
 }  // namespace tvr::visa::vxi11

@@ -20,7 +20,7 @@
 #include <string>
 #include <vector>
 
-#include "transport.h"
+#include "instr_transport.h"
 #include "vxi11_interrupts.h"
 #include "vxi11_rpc.h"
 #include "xdr/vxi11.h"
@@ -31,14 +31,13 @@ namespace tvr::visa::vxi11 {
 constexpr int kWaitLock = 0x01, kEnd = 0x08, kTermcharSet = 0x80;
 constexpr int kReasonEnd = 0x04;
 
-class Vxi11Transport final : public Transport {
+class Vxi11Transport final : public InstrTransport {
  public:
   Vxi11Transport(const ResourceName& resource, Interruption& interruption);
   ~Vxi11Transport() override;
 
   ViStatus Open(Deadline& deadline);
 
-  bool CarriesEnd() const override { return true; }
   ViStatus Read(const ReadRequest& request, Deadline& deadline, std::size_t& received) override;
   ViStatus Write(std::span<iovec> pieces, bool end, Deadline& deadline, std::size_t& sent) override;
   ViStatus Clear(Deadline& deadline) override;
@@ -51,10 +50,10 @@ class Vxi11Transport final : public Transport {
   ViStatus UnlockDevice(bool exclusive, ViUInt32 timeout_ms) override;
   ViStatus DeliverServiceRequests(std::function<void()> sink, ViUInt32 timeout_ms) override;
   ViStatus GetAttribute(ViAttr attribute, void* value) override;
-  ViStatus SetAttribute(ViAttr attribute, ViAttrState value, ViUInt32 timeout_ms) override;
   void HangUp() override;
 
  private:
+  const TcpStream& stream() const override { return core_.stream(); }
   ViStatus CreateLink(Deadline& deadline);
   // One call on the core channel, and what becomes of the link when it fails.
   template <class Arguments, class Results>
@@ -89,8 +88,6 @@ class Vxi11Transport final : public Transport {
   ViStatus ReadPart(const ReadRequest& request, Deadline& deadline, std::size_t& received, int& reason);
   ViStatus WritePart(std::span<const iovec> part, std::size_t length, bool end, Deadline& deadline, std::size_t& taken);
 
-  const std::string host_;
-  const std::string device_name_;
   Interruption& interruption_;
   // The session makes one call at a time; the farewell of HangUp comes after the last.
   std::mutex busy_;
@@ -106,7 +103,6 @@ class Vxi11Transport final : public Transport {
   bool abort_unanswered_ = false;
   bool interrupts_in_doubt_ = false;  // the device has not said whether it made the channel
   std::size_t most_data_ = 0;
-  std::atomic<bool> suppress_end_{false};  // read by GetAttribute while a call is at work
   std::vector<iovec> pieces_;
 };
 
