@@ -1,6 +1,28 @@
 #include "Bytes.h"
 
+#include <gtest/gtest.h>
+
 namespace kvtd::test {
+
+std::string FromHex(std::string_view digits) {
+  std::string bytes;
+  std::string pair;
+  bool is_text = false;
+  for (const char c : digits) {
+    if (c == '\'') {
+      is_text = !is_text;
+    } else if (is_text) {
+      bytes += c;
+    } else if (c != ' ') {
+      pair += c;
+      if (pair.size() < 2) continue;
+      bytes += static_cast<char>(std::stoi(pair, nullptr, 16));
+      pair.clear();
+    }
+  }
+  EXPECT_TRUE(pair.empty() && !is_text) << digits;
+  return bytes;
+}
 
 std::string Visible(std::string_view bytes) {
   static constexpr char kHex[] = "0123456789ABCDEF";

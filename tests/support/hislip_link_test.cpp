@@ -10,16 +10,7 @@ namespace {
 
 // "HS" and the fourteen bytes behind it, in hexadecimal digits with blanks.
 std::string Frame(std::string_view digits, std::string_view payload = {}) {
-  std::string bytes = "HS";
-  std::string pair;
-  for (const char digit : digits) {
-    if (digit == ' ') continue;
-    pair += digit;
-    if (pair.size() < 2) continue;
-    bytes += static_cast<char>(std::stoi(pair, nullptr, 16));
-    pair.clear();
-  }
-  return bytes + std::string(payload);
+  return "HS" + FromHex(digits) + std::string(payload);
 }
 
 class HislipClient {

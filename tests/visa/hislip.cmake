@@ -1,6 +1,6 @@
 # HiSLIP: the transport against a peer that speaks in literal frames.
 if(TARGET kvtd_test_support)
-  add_library(visa_hislip_peer STATIC hislip_peer.cpp $<TARGET_OBJECTS:tvrvisa_objects>)
+  add_library(visa_hislip_peer STATIC hislip_peer.cpp link_peer.cpp $<TARGET_OBJECTS:tvrvisa_objects>)
   kvtd_defaults(visa_hislip_peer)
   target_include_directories(visa_hislip_peer PUBLIC ${PROJECT_SOURCE_DIR}/platform/visa)
   target_link_libraries(visa_hislip_peer PUBLIC kvtd_test_support PkgConfig::TIRPC GTest::gmock)

@@ -1,6 +1,6 @@
 # VXI-11: the transport against a peer that speaks in literal records.
 if(TARGET kvtd_test_support)
-  add_library(visa_vxi11_peer STATIC vxi11_peer.cpp $<TARGET_OBJECTS:tvrvisa_objects>)
+  add_library(visa_vxi11_peer STATIC vxi11_peer.cpp link_peer.cpp $<TARGET_OBJECTS:tvrvisa_objects>)
   kvtd_defaults(visa_vxi11_peer)
   target_include_directories(visa_vxi11_peer PUBLIC ${PROJECT_SOURCE_DIR}/platform/visa)
   target_link_libraries(visa_vxi11_peer PUBLIC kvtd_test_support PkgConfig::TIRPC GTest::gmock)
