@@ -11,15 +11,7 @@ namespace siggen {
 
 // "HS" stands for itself, hexadecimal digits follow; blanks separate. The payload comes behind.
 inline std::string Frame(std::string_view header, std::string_view payload = {}) {
-  std::string bytes(header.substr(0, 2));
-  std::string digits;
-  for (const char c : header.substr(2)) {
-    if (c == ' ') continue;
-    digits += c;
-    if (digits.size() < 2) continue;
-    bytes += static_cast<char>(std::stoi(digits, nullptr, 16));
-    digits.clear();
-  }
+  const std::string bytes = std::string(header.substr(0, 2)) + Bytes(header.substr(2));
   EXPECT_EQ(16U, bytes.size()) << header;
   return bytes + std::string(payload);
 }

@@ -8,27 +8,6 @@
 
 namespace siggen {
 
-// Hexadecimal digits, with blanks where one likes; what stands in 'quotes' stands for itself.
-inline std::string Bytes(std::string_view text) {
-  std::string bytes;
-  std::string digits;
-  bool quoted = false;
-  for (const char c : text) {
-    if (c == '\'') {
-      quoted = !quoted;
-    } else if (quoted) {
-      bytes += c;
-    } else if (c != ' ') {
-      digits += c;
-      if (digits.size() < 2) continue;
-      bytes += static_cast<char>(std::stoi(digits, nullptr, 16));
-      digits.clear();
-    }
-  }
-  EXPECT_TRUE(digits.empty() && !quoted) << text;
-  return bytes;
-}
-
 // One record of one fragment.
 inline std::string Record(const std::string& message) {
   char mark[9];

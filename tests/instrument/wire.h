@@ -19,6 +19,27 @@ inline std::string Readable(std::string_view bytes) {
   return text;
 }
 
+// Hexadecimal digits, with blanks where one likes; what stands in 'quotes' stands for itself.
+inline std::string Bytes(std::string_view text) {
+  std::string bytes;
+  std::string digits;
+  bool quoted = false;
+  for (const char c : text) {
+    if (c == '\'') {
+      quoted = !quoted;
+    } else if (quoted) {
+      bytes += c;
+    } else if (c != ' ') {
+      digits += c;
+      if (digits.size() < 2) continue;
+      bytes += static_cast<char>(std::stoi(digits, nullptr, 16));
+      digits.clear();
+    }
+  }
+  EXPECT_TRUE(digits.empty() && !quoted) << text;
+  return bytes;
+}
+
 // A connection of which exactly as many bytes are taken as are asked for.
 class Wire {
  public:
