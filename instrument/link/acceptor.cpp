@@ -12,7 +12,6 @@ Acceptor::Acceptor(asio::io_context& io, const std::string& address, std::uint16
   acceptor_.bind(endpoint);
   acceptor_.listen();
   port_ = acceptor_.local_endpoint().port();
-  Accept();
 }
 
 void Acceptor::Close() {

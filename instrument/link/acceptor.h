@@ -15,6 +15,8 @@ class Acceptor {
 
   // Listens when it returns. Throws std::system_error when the address or the port cannot be had.
   Acceptor(asio::io_context& io, const std::string& address, std::uint16_t port, Taker taker);
+  // Takes connections from now on. When nothing can fail any more: from here this has to live as long as `io` runs.
+  void Start() { Accept(); }
 
   // Known for as long as this lives: what is told of it to a client may be told while the server ends.
   std::uint16_t port() const { return port_; }

@@ -29,7 +29,9 @@ class HislipServer::Impl : public Hall {
  public:
   Impl(Services& services, const std::string& address, std::uint16_t port)
       : services_(services),
-        acceptor_(services.io(), address, port, [this](tcp::socket socket) { Take(std::move(socket)); }) {}
+        acceptor_(services.io(), address, port, [this](tcp::socket socket) { Take(std::move(socket)); }) {
+    acceptor_.Start();
+  }
 
   Services& services() override { return services_; }
   void Leave(Session& session) override { sessions_.erase(session.id()); }

@@ -39,6 +39,7 @@ class Host::Impl : public Services {
     if (options.socket_port) {
       acceptor_.emplace(io_, options.address, *options.socket_port,
                         [this](tcp::socket socket) { TakeLink(std::move(socket)); });
+      acceptor_->Start();
       listeners_.push_back({"socket", options.address, acceptor_->port()});
     }
     if (options.hislip_port) {

@@ -54,6 +54,7 @@ PortMapper::PortMapper(asio::io_context& io, const std::string& address, std::ui
       acceptor_(io, address, port, [this](tcp::socket socket) { Take(std::move(socket)); }),
       datagrams_(io, udp::endpoint(asio::ip::make_address(address), acceptor_.port())) {
   ReceiveDatagram();
+  acceptor_.Start();
 }
 
 void PortMapper::Close() {

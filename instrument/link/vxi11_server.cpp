@@ -26,7 +26,10 @@ class Vxi11Server::Impl : public Hall {
   Impl(Services& services, const std::string& address, std::uint16_t port)
       : services_(services),
         core_(services.io(), address, port, [this](tcp::socket socket) { TakeSession(std::move(socket)); }),
-        abort_(services.io(), address, 0, [this](tcp::socket socket) { TakeAborter(std::move(socket)); }) {}
+        abort_(services.io(), address, 0, [this](tcp::socket socket) { TakeAborter(std::move(socket)); }) {
+    core_.Start();
+    abort_.Start();
+  }
 
   Services& services() override { return services_; }
   std::uint16_t abort_port() const override { return abort_.port(); }

@@ -120,16 +120,27 @@ TEST_F(PortMapper, OutlivesWhatIsNoCall) {
 }
 
 TEST_F(PortMapper, APortThatIsTakenStopsNobody) {
-  link::HostOptions options = WithPortMapper();
-  options.port_mapper = port();
-  testing::internal::CaptureStderr();
-  LiveInstrument second(options);
-  const std::string said = testing::internal::GetCapturedStderr();
-  EXPECT_EQ(1U, second.host().listeners().size());
-  EXPECT_EQ("no port mapper tells VXI-11 clients of port " + std::to_string(second.port()) +
-                ": bind: Address already in use\n",
-            said);
-  EXPECT_EQ("1\n", Vxi11Client(second.port()).Ask("00000001", "*OPC?"));
+  // The port of this one is taken over TCP as well; the other over UDP alone.
+  const int datagrams = ::socket(AF_INET, SOCK_DGRAM, 0);
+  sockaddr_in address{};
+  address.sin_family = AF_INET;
+  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+  socklen_t size = sizeof address;
+  EXPECT_EQ(0, ::bind(datagrams, reinterpret_cast<const sockaddr*>(&address), size));
+  EXPECT_EQ(0, ::getsockname(datagrams, reinterpret_cast<sockaddr*>(&address), &size));
+  for (const std::uint16_t taken : {port(), std::uint16_t{ntohs(address.sin_port)}}) {
+    link::HostOptions options = WithPortMapper();
+    options.port_mapper = taken;
+    testing::internal::CaptureStderr();
+    LiveInstrument second(options);
+    const std::string said = testing::internal::GetCapturedStderr();
+    EXPECT_EQ(1U, second.host().listeners().size());
+    EXPECT_EQ("no port mapper tells VXI-11 clients of port " + std::to_string(second.port()) +
+                  ": bind: Address already in use\n",
+              said);
+    EXPECT_EQ("1\n", Vxi11Client(second.port()).Ask("00000001", "*OPC?"));
+  }
+  ::close(datagrams);
 }
 
 }  // namespace
