@@ -139,7 +139,10 @@ ViStatus HislipTransport::ClearInto(bool overlap, Deadline& deadline) {
                                         .payload = {},
                                         .answer = Type::kAsyncDeviceClearAcknowledge,
                                         .meanwhile = &drop};
-  if (const ViStatus status = async_->Ask(question, deadline, preferred); status < 0) return status;
+  if (const ViStatus status = async_->Ask(question, deadline, preferred); status < 0) {
+    // Messages here are so small that one which stays open was shorter than it told, and will swallow all that comes.
+    return status == VI_ERROR_TMO && async_->IsAmidMessage() ? VI_ERROR_CONN_LOST : status;
+  }
   async_->ForgetUnanswered();
 
   // The rest of a message that was given up half-way; the device ignores it.
@@ -154,7 +157,8 @@ ViStatus HislipTransport::ClearInto(bool overlap, Deadline& deadline) {
   if (const ViStatus status = sync_.Send({Type::kDeviceClearComplete, features}, deadline); status < 0) return status;
   Header acknowledge;
   if (const ViStatus status = AwaitSynchronous(Type::kDeviceClearAcknowledge, deadline, acknowledge); status < 0) {
-    return status;
+    // The device has ended what it was saying; so it is here.
+    return status == VI_ERROR_TMO && sync_.PayloadLeft() > 0 ? VI_ERROR_CONN_LOST : status;
   }
   overlap_ = (acknowledge.control & kOverlap) != 0;
   Restart();

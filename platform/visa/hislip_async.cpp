@@ -155,6 +155,11 @@ ViStatus AsyncChannel::AwaitInterruptions(ViUInt32 count, Deadline& deadline) {
   return VI_SUCCESS;
 }
 
+bool AsyncChannel::IsAmidMessage() {
+  const Turn turn(*this);
+  return channel_.PayloadLeft() > 0;
+}
+
 void AsyncChannel::ForgetUnanswered() {
   const Turn turn(*this);
   const unsigned locks = unanswered_[IndexOf(Type::kAsyncLockResponse)];

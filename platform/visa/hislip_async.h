@@ -61,6 +61,8 @@ class AsyncChannel : public std::enable_shared_from_this<AsyncChannel> {
   // The peer does not keep to the protocol: it is told, as far as it still listens.
   void TellMalformed();
   void HangUp() { channel_.stream().HangUp(); }
+  // A message is open whose rest does not come.
+  bool IsAmidMessage();
   // Before the owner lets go. Ends the thread; when it is the caller's, as soon as it comes back from the sink.
   void Close();
 

@@ -15,6 +15,8 @@ ViStatus Vxi11Transport::Read(const ReadRequest& request, Deadline& deadline, st
   const std::lock_guard busy(busy_);
   received = 0;
   for (;;) {
+    // A device that always has more to give must not keep a call for ever, however often the call comes back here.
+    if (deadline.ExpiredAtNextWait()) return VI_ERROR_TMO;
     int reason = 0;
     if (const ViStatus status = ReadPart(request, deadline, received, reason); status < 0) return status;
     if ((reason & kReasonEnd) != 0 && !suppress_end_) return VI_SUCCESS;
@@ -23,7 +25,6 @@ ViStatus Vxi11Transport::Read(const ReadRequest& request, Deadline& deadline, st
       return VI_SUCCESS_TERM_CHAR;
     }
     if (received >= request.at_least) return VI_SUCCESS_MAX_CNT;
-    if (deadline.Expired()) return VI_ERROR_TMO;
   }
 }
 

@@ -65,17 +65,24 @@ ViStatus RecordStream::NextFragment(Deadline& deadline) {
 }
 
 ViStatus RecordStream::Next(Deadline& deadline) {
+  // Less than this in a call's whole time is no record on its way: one was shorter than it told, and swallows the
+  // replies that come now.
+  constexpr std::size_t kSlowest = 4096;
+  std::size_t dropped = 0;
   while (fragment_left_ > 0 || !last_fragment_) {
     if (fragment_left_ == 0) {
       if (const ViStatus status = NextFragment(deadline); status < 0) return status;
       continue;
     }
     if (Buffered() == 0) {
-      if (const ViStatus status = Fill(1, deadline); status < 0) return status;
+      if (const ViStatus status = Fill(1, deadline); status < 0) {
+        return status == VI_ERROR_TMO && dropped < kSlowest ? kMalformed : status;
+      }
     }
     const std::size_t count = std::min(Buffered(), fragment_left_);
     begin_ += count;
     fragment_left_ -= count;
+    dropped += count;
   }
   return NextFragment(deadline);
 }

@@ -40,6 +40,17 @@ TEST_F(HislipControl, AClearThatIsNotAcknowledgedEndsByTheTimeout) {
   peer_.HearsNothingMore(kSync);
 }
 
+// A link that would say "timeout" to each device clear from here on.
+TEST_F(HislipControl, AClearWhoseAcknowledgeIsSwallowedByAMessageThatLiesEndsTheLink) {
+  ASSERT_EQ(VI_SUCCESS, Write("A?"));
+  peer_.Says(kSync, Frame("HS 07 00 FFFFFF00 0000000000010000", "ok\n"));
+  EXPECT_EQ("ok\n", Read(2000, 4096, ViByte{'\n'}));
+  peer_.Says(kAsync, Frame("HS 17 00 00000000 0000000000000000"));
+  peer_.Says(kSync, Frame("HS 09 00 00000000 0000000000000000"));
+  EXPECT_EQ(VI_ERROR_CONN_LOST, Clear(100));
+  EXPECT_EQ(VI_ERROR_CONN_LOST, Write("B?"));
+}
+
 TEST_F(HislipControl, AMessageThatWasGivenUpIsTakenBackByTheNextWrite) {
   const std::string long_message(32 << 20, 'x');
   ASSERT_EQ(VI_ERROR_TMO, Write(long_message, 100));

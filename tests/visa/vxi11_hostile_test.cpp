@@ -47,26 +47,60 @@ TEST_F(Vxi11Hostile, MoreDataThanWasAskedForFillTheRoomAndNoMore) {
   EXPECT_EQ("OK", Read(2000, 8));
 }
 
-TEST_F(Vxi11Hostile, AFragmentOfTwoGigabytesCostsNoMemoryAndNoTime) {
+TEST_F(Vxi11Hostile, AFragmentOfTwoGigabytesCostsNoMemoryAndNoTimeAndEndsTheLink) {
   peer_.Says(kCore, Bytes("FFFFFFFF 00000002 00000001 00000000 00000000 00000000 00000000"
                           "00000000 00000004 FFFFFFFF 'ABCDEFGHIJ'"));
   EXPECT_EQ("ABCDEFGH", Read(2000, 8));
   EXPECT_EQ(VI_ERROR_OUTP_PROT_VIOL, status_);
   const Stopwatch watch;
   EXPECT_EQ("", Read(50, 8)) << "the rest of the record never comes";
-  EXPECT_EQ(VI_ERROR_TMO, status_);
+  EXPECT_EQ(VI_ERROR_CONN_LOST, status_);
   EXPECT_LT(watch.Milliseconds(), 150);
+  EXPECT_EQ(VI_ERROR_CONN_LOST, Write("A?"));
 }
 
-TEST_F(Vxi11Hostile, ARecordThatLiesAboutItsLengthIsATimeout) {
+TEST_F(Vxi11Hostile, TheRestOfARecordThatIsOnItsWayIsWaitedFor) {
+  peer_.Says(kCore, Bytes("80002028 00000002 00000001 00000000 00000000 00000000 00000000"
+                          "00000000 00000004 00002004 'ABCD'"));
+  EXPECT_EQ("ABCD", Read(50));
+  EXPECT_EQ(VI_ERROR_TMO, status_);
+  peer_.Says(kCore, std::string(0x1800, 'x'));
+  Read(50);
+  EXPECT_EQ(VI_ERROR_TMO, status_);
+  peer_.Says(kCore, std::string(0x800, 'x') + Reply(4, "00000000 00000004 00000002 'OK' 0000"));
+  EXPECT_EQ("OK", Read());
+}
+
+TEST_F(Vxi11Hostile, ARecordThatLiesAboutItsLengthEndsTheLink) {
   std::string lie = Reply(2, "00000000 00000004 00000002 'OK' 0000");
   lie[3] = '\x7F';
   peer_.Says(kCore, lie);
   EXPECT_EQ("OK", Read()) << "the reply itself is whole";
   peer_.Says(kCore, Reply(3, "00000000 00000001"));
   const Stopwatch watch;
-  EXPECT_EQ(VI_ERROR_TMO, Write("A", 50)) << "it was taken for the rest of the one before";
+  EXPECT_EQ(VI_ERROR_CONN_LOST, Write("A", 50)) << "it was taken for the rest of the one before";
   EXPECT_LT(watch.Milliseconds(), 150);
+}
+
+TEST_F(Vxi11Hostile, ADeviceThatAlwaysHasMoreDoesNotStretchTheTimeout) {
+  std::thread device([&] {
+    for (unsigned number = 2; !peer_.Next(kCore, 68).empty(); ++number) {
+      if (!peer_.Offers(kCore, Reply(number, "00000000 00000000 00000001 'x' 000000"))) break;
+    }
+  });
+  const Stopwatch watch;
+  // The reads of one call of formatted I/O.
+  Deadline deadline(100);
+  ViStatus status = VI_SUCCESS;
+  while (status >= 0 && watch.Milliseconds() < 1000) {
+    ViByte byte = 0;
+    std::size_t received = 0;
+    status = link_->Read({&byte, 1, 1, {}}, deadline, received);
+  }
+  EXPECT_EQ(VI_ERROR_TMO, status);
+  EXPECT_LT(watch.Milliseconds(), 200);
+  link_->HangUp();
+  device.join();
 }
 
 TEST_F(Vxi11Hostile, BytesInDropsDoNotStretchTheTimeout) {

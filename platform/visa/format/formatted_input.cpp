@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 namespace tvr::visa {
 
@@ -35,6 +36,8 @@ void FormattedInput::SetSize(std::size_t size) {
 // One low-level read behind the unread bytes. It returns with what is there: on a link without END a full buffer might
 // never come together.
 ViStatus FormattedInput::Fill() {
+  if (failed_ < 0) [[unlikely]]
+    return std::exchange(failed_, VI_SUCCESS);
   // A byte to look ahead at must fit beside one that is looked at, however small the caller made the buffer.
   if (buffer_.size() < std::max<std::size_t>(size_, 4)) buffer_.resize(std::max<std::size_t>(size_, 4));
   const std::size_t unread = Unread();
@@ -48,8 +51,10 @@ ViStatus FormattedInput::Fill() {
   const ViStatus status = link_.Read(request, *deadline_, received);
   last_ += received;
   final_ = status == VI_SUCCESS ? Final::kEnd : status == VI_SUCCESS_TERM_CHAR ? Final::kTermchar : Final::kNot;
-  // What came before a failure is used first; the failure will be met again.
-  return received > 0 ? VI_SUCCESS : status;
+  if (received == 0) return status;
+  // What came before a failure is used first. Not every failure would be met again: a device tells an error once.
+  if (status < 0) failed_ = status;
+  return VI_SUCCESS;
 }
 
 bool FormattedInput::Refill() {
@@ -59,6 +64,7 @@ bool FormattedInput::Refill() {
 
 std::size_t FormattedInput::ReadDirectly(ViByte* into, std::size_t count) {
   std::size_t taken = 0;
+  if (failed_ < 0) status_ = std::exchange(failed_, VI_SUCCESS);
   while (taken < count && status_ >= 0 && !ended_) {
     std::size_t received = 0;
     const ReadRequest request{into + taken, count - taken, count - taken, std::nullopt};

@@ -16,6 +16,7 @@ class FormattedInput final : public ReadStream {
 
   void BeginCall(Deadline& deadline) {
     deadline_ = &deadline;
+    failed_ = VI_SUCCESS;
     ReadStream::BeginCall();
   }
 
@@ -38,6 +39,8 @@ class FormattedInput final : public ReadStream {
 
   Link& link_;
   Deadline* deadline_ = nullptr;
+  // Of the read that brought the bytes which are used first.
+  ViStatus failed_ = VI_SUCCESS;
   std::vector<char> buffer_;
   // Read by viGetAttribute without the session's lock.
   std::atomic<std::size_t> size_{4096};
