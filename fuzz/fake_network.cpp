@@ -27,7 +27,8 @@ constexpr milliseconds kForever = milliseconds::max();
 struct Connection {
   Peer* peer = nullptr;
   bool open = false;
-  bool finished = false;  // closed or reset by the peer
+  bool finished = false;  // half-closed, closed or reset by the peer
+  bool closed = false;
   bool reset = false;
   milliseconds wait{0};  // until `heard` may be received
   std::string heard;
@@ -61,7 +62,9 @@ milliseconds UntilReadable(Connection& connection) {
   if (connection.heard.empty() && !connection.finished && connection.wait.count() == 0) {
     Speech speech = connection.peer->Speak();
     connection.wait = speech.after;
-    connection.finished = speech.kind == Speech::Kind::kClose || speech.kind == Speech::Kind::kReset;
+    connection.closed = speech.kind == Speech::Kind::kClose;
+    connection.finished =
+        connection.closed || speech.kind == Speech::Kind::kHalfClose || speech.kind == Speech::Kind::kReset;
     connection.reset = speech.kind == Speech::Kind::kReset;
     if (speech.kind == Speech::Kind::kBytes) connection.heard = std::move(speech.bytes);
     if (speech.kind == Speech::Kind::kSilence) connection.wait = std::max(connection.wait, milliseconds(1));
@@ -124,6 +127,12 @@ ssize_t Receive(Connection& connection, void* into, std::size_t room, int flags)
   return static_cast<ssize_t>(count);
 }
 
+std::size_t SizeOf(std::span<const iovec> pieces) {
+  std::size_t size = 0;
+  for (const iovec& piece : pieces) size += piece.iov_len;
+  return size;
+}
+
 ssize_t Send(Connection& connection, std::span<const iovec> pieces, int flags) {
   if (connection.hung_up || connection.reset) return Fail(EPIPE);
   std::size_t room = connection.peer->Room();
@@ -134,6 +143,12 @@ ssize_t Send(Connection& connection, std::span<const iovec> pieces, int flags) {
   if (room == 0) {
     if ((flags & MSG_DONTWAIT) == 0) The().now += kSlice;
     return Fail(EAGAIN);
+  }
+  if (connection.closed) {
+    // The kernel takes it, and learns that nobody is there.
+    connection.heard.clear();
+    connection.reset = true;
+    return static_cast<ssize_t>(std::min(room, SizeOf(pieces)));
   }
   ssize_t sent = 0;
   for (const iovec& piece : pieces) {
@@ -213,6 +228,7 @@ std::chrono::steady_clock::time_point FakeNow() noexcept { return The().now; }
 extern "C" {
 
 int __real_close(int descriptor);
+int __real_eventfd(unsigned count, int flags);
 int __real_poll(pollfd* waits, nfds_t count, int timeout);
 
 int __wrap_socket(int, int, int) {
@@ -259,6 +275,13 @@ int __wrap_poll(pollfd* waits, nfds_t count, int timeout) {
   if (connection == nullptr) return __real_poll(waits, count, timeout);
   for (nfds_t i = 1; i < count; ++i) waits[i].revents = 0;
   return kvtd::fuzz::Poll(*connection, waits[0], timeout);
+}
+
+int __wrap_eventfd(unsigned count, int flags) {
+  if (const auto* const disturbance = kvtd::fuzz::Befalling(kvtd::fuzz::Disturbance::Call::kEventDescriptor)) {
+    return static_cast<int>(kvtd::fuzz::Fail(disturbance->error));
+  }
+  return __real_eventfd(count, flags);
 }
 
 int __wrap_shutdown(int descriptor, int) {

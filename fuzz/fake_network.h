@@ -17,7 +17,8 @@
 namespace kvtd::fuzz {
 
 struct Speech {
-  enum class Kind { kBytes, kSilence, kClose, kReset };
+  // At a half-close the peer still reads; what it is sent after a close is answered with a reset.
+  enum class Kind { kBytes, kSilence, kHalfClose, kClose, kReset };
   Kind kind = Kind::kSilence;
   std::chrono::milliseconds after{0};  // how long it is in coming
   std::string bytes;                   // for kBytes; never empty
@@ -37,7 +38,7 @@ class Peer {
 
 // System calls that fail, or do less than they could.
 struct Disturbance {
-  enum class Call { kNone, kSocket, kConnect, kSend, kReceive, kPoll };
+  enum class Call { kNone, kSocket, kConnect, kSend, kReceive, kPoll, kEventDescriptor };
   Call call = Call::kNone;
   std::size_t after = 0;  // so many of these calls still go well
   int error = 0;          // what errno says then; 0: a single byte is sent or received
