@@ -7,11 +7,9 @@
 
 #include <array>
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <string_view>
 #include <utility>
 
 #include "DriverDialogue.h"
@@ -48,11 +46,6 @@ double Difference(std::size_t before, std::size_t after) {
 }
 
 }  // namespace
-
-bool IsFullProof() {
-  const char* const proof = std::getenv("KVTD_PROOF");
-  return proof != nullptr && std::string_view(proof) == "full";
-}
 
 Holdings HeldNow() {
   const std::size_t descriptors = OpenDescriptors();

@@ -1,5 +1,4 @@
-// How much a load test does, what the process holds, and how a figure is told. A test does little unless the
-// environment says KVTD_PROOF=full; each prints one line "proof: ..." with what it did.
+// What the process holds, and how a figure is told: each load test prints one line "proof: ..." with what it did.
 
 #ifndef KVTD_TESTS_PROOF_LOAD_H
 #define KVTD_TESTS_PROOF_LOAD_H
@@ -10,14 +9,9 @@
 #include <cstddef>
 #include <string>
 
+#include "Proof.h"
+
 namespace kvtd::test {
-
-bool IsFullProof();
-
-template <class Amount>
-Amount InFullOrBrief(Amount full, Amount brief) {
-  return IsFullProof() ? full : brief;
-}
 
 struct Holdings {
   std::size_t descriptors;
