@@ -3,6 +3,7 @@
 #include <KVTD481X2C.h>
 #include <benchmark/benchmark.h>
 
+#include <chrono>
 #include <cstdlib>
 #include <memory>
 #include <string>
@@ -67,6 +68,35 @@ void QueryWithStatus(benchmark::State& state) {
     bench::Report(state,
                   bench::Alternate(kCalls, floor, [&] { Require(KVTD481X2C_GetFrequencyMultiplier(b.vi, &value)); }),
                   1.05);
+  }
+}
+
+// Two plain queries against the same two with a moment of computing behind each: what a processor makes of that moment
+// when client and peer share it is more than the moment, and no driver is without one.
+void Pause(benchmark::State& state) {
+  constexpr std::chrono::nanoseconds kMoment{250};
+  Bench b(state);
+  bench::FloorClient second(b.responder.port());
+  const auto compute = [&] {
+    const auto end = std::chrono::steady_clock::now() + kMoment;
+    while (std::chrono::steady_clock::now() < end) continue;
+  };
+  for (auto _ : state) {
+    const auto floor = [&] {
+      b.floor.Query(":FREQ:MULT?\n");
+      b.floor.Query("*ESR?\n");
+    };
+    const auto paused = [&] {
+      second.Query(":FREQ:MULT?\n");
+      compute();
+      second.Query("*ESR?\n");
+      compute();
+    };
+    const bench::Comparison result = bench::Alternate(kCalls, floor, paused);
+    state.counters["floor_us"] = result.floor;
+    state.counters["paused_us"] = result.work;
+    state.counters["ratio"] = result.work / result.floor;
+    state.counters["ratio_of_sum"] = 1.0 + 2 * 1e-3 * static_cast<double>(kMoment.count()) / result.floor;
   }
 }
 
@@ -135,6 +165,7 @@ void OpenClose(benchmark::State& state) {
 #define PLACED(work) BENCHMARK(work)->ArgName("cores")->Arg(1)->Arg(2)->Iterations(1)->Unit(benchmark::kMillisecond)
 PLACED(Query);
 PLACED(QueryWithStatus);
+PLACED(Pause);
 PLACED(SetWithStatus);
 PLACED(Set);
 PLACED(OpenClose);

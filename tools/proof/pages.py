@@ -20,6 +20,8 @@ RATIOS = [
     ("Query/cores:2", "ratio", "the same on two cores", "target"),
     ("QueryWithStatus/cores:1", "ratio", "query with status check", "target"),
     ("QueryWithStatus/cores:2", "ratio", "the same on two cores", "target"),
+    ("Pause/cores:1", "ratio", "two queries of plain sockets, with 250 ns of computing behind each", None),
+    ("Pause/cores:1", "ratio_of_sum", "what 250 ns twice would add by themselves", None),
     ("SetWithStatus/cores:1", "ratio", "set with status check", "target"),
     ("SetWithStatus/cores:2", "ratio", "the same on two cores", "target"),
     ("Set/cores:1", "ratio", "set without", "target"),
