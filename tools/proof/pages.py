@@ -83,7 +83,10 @@ def benchmarks(results):
     found = {}
     for path in sorted(results.glob("*_bench.json")):
         for row in json.loads(path.read_text(encoding="utf-8"))["benchmarks"]:
-            found[row["name"].replace("/iterations:1", "")] = row
+            if row.get("error_occurred"):
+                print(f"pages.py: {row['name']} has no figures: {row.get('error_message')}", file=sys.stderr)
+            else:
+                found[row["name"].replace("/iterations:1", "")] = row
     return found
 
 
