@@ -134,18 +134,19 @@ TEST_F(AttributeAccessDialogue, ANullPointerIsRefusedBeforeTheIdAndTheHandleAreL
 
 // With a handle that is not open the text is the thread's, found under handle 0.
 TEST_F(AttributeAccessDialogue, ANullPointerIsRefusedOnAConstantOfTheDriverAlsoWithAHandleThatIsNotOpen) {
-  for (const ViAttr attribute : {KVTD481X2C_ATTR_SPECIFIC_DRIVER_CLASS_SPEC_MAJOR_VERSION,
-                                 KVTD481X2C_ATTR_SPECIFIC_DRIVER_CLASS_SPEC_MINOR_VERSION}) {
+  for (const ViAttr attribute :
+       std::initializer_list<ViAttr>{KVTD481X2C_ATTR_SPECIFIC_DRIVER_CLASS_SPEC_MAJOR_VERSION,
+                                     KVTD481X2C_ATTR_SPECIFIC_DRIVER_CLASS_SPEC_MINOR_VERSION}) {
     EXPECT_STATUS(kNullPointer, KVTD481X2C_GetAttributeViInt32(0xDEADBEEF, nullptr, attribute, nullptr));
     EXPECT_EQ((RecordedError{kNullPointer,
                              "Null pointer passed for function 'KVTD481X2C_GetAttributeViInt32', parameter "
                              "'AttributeValue'."}),
               ErrorOf(VI_NULL));
   }
-  for (const ViAttr attribute :
-       {KVTD481X2C_ATTR_SUPPORTED_INSTRUMENT_MODELS, KVTD481X2C_ATTR_GROUP_CAPABILITIES,
-        KVTD481X2C_ATTR_SPECIFIC_DRIVER_PREFIX, KVTD481X2C_ATTR_SPECIFIC_DRIVER_VENDOR,
-        KVTD481X2C_ATTR_SPECIFIC_DRIVER_DESCRIPTION, KVTD481X2C_ATTR_SPECIFIC_DRIVER_REVISION}) {
+  for (const ViAttr attribute : std::initializer_list<ViAttr>{
+           KVTD481X2C_ATTR_SUPPORTED_INSTRUMENT_MODELS, KVTD481X2C_ATTR_GROUP_CAPABILITIES,
+           KVTD481X2C_ATTR_SPECIFIC_DRIVER_PREFIX, KVTD481X2C_ATTR_SPECIFIC_DRIVER_VENDOR,
+           KVTD481X2C_ATTR_SPECIFIC_DRIVER_DESCRIPTION, KVTD481X2C_ATTR_SPECIFIC_DRIVER_REVISION}) {
     EXPECT_STATUS(kNullPointer, KVTD481X2C_GetAttributeViString(0xDEADBEEF, nullptr, attribute, 64, nullptr));
     EXPECT_EQ((RecordedError{kNullPointer,
                              "Null pointer passed for function 'GetAttributeViString', parameter "

@@ -12,8 +12,8 @@ std::byte* Arguments::Room(std::size_t size, bool begins_empty) {
 }
 
 std::byte* Arguments::Hold(const void* bytes, std::size_t size, bool is_output) {
-  const Buffer& buffer =
-      buffers_.emplace_back(GuardedMemory(size), std::string(static_cast<const char*>(bytes), size), is_output);
+  buffers_.push_back({GuardedMemory(size), std::string(static_cast<const char*>(bytes), size), is_output});
+  const Buffer& buffer = buffers_.back();
   std::memcpy(buffer.memory.data(), bytes, size);
   return buffer.memory.data();
 }

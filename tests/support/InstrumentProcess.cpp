@@ -82,7 +82,7 @@ void InstrumentProcess::ReadPorts(const std::vector<std::string>& listeners) {
     if (line.empty()) throw std::runtime_error("the virtual instrument did not tell its listeners");
     for (const std::string& listener : listeners) {
       if (!line.starts_with(listener + ' ')) continue;
-      const char* digits = line.data() + line.rfind(':') + 1;
+      const char* digits = line.data() + (line.rfind(':') + 1);
       std::uint16_t port = 0;
       if (std::from_chars(digits, line.data() + line.size(), port).ec != std::errc() || port == 0) {
         throw std::runtime_error("the virtual instrument told no port: " + line);
