@@ -6,6 +6,7 @@ usage: pages.py RESULTS_FOLDER DOCS_FOLDER
 import json
 import pathlib
 import platform
+import re
 import string
 import subprocess
 import sys
@@ -65,6 +66,33 @@ def lines(results, name):
     except FileNotFoundError:
         return NOT_RUN
     return "\n".join("    " + line for line in text.splitlines())
+
+
+FAULTS = re.compile(r"proof: faults over (\S+): (\d+) cases: (.*)")
+LINKS = ("socket", "HiSLIP", "VXI-11")
+
+
+def without_faults(text):
+    return "\n".join(entry for entry in text.splitlines() if "proof: faults over" not in entry)
+
+
+def faults(results):
+    """How many cases of each kind were tried over each link."""
+    try:
+        text = (results / "calls.txt").read_text(encoding="utf-8")
+    except FileNotFoundError:
+        return NOT_RUN
+    tried = {}
+    for link, count, kind in FAULTS.findall(text):
+        tried.setdefault(kind, dict.fromkeys(LINKS, 0))[link] += int(count)
+    if not tried:
+        return NOT_RUN
+    table = ["| Fault | " + " | ".join(LINKS) + " |", "|---|" + "---:|" * len(LINKS)]
+    for kind, counts in sorted(tried.items()):
+        table.append(f"| {kind} | " + " | ".join(f"{counts[link]:,}" if counts[link] else "" for link in LINKS) + " |")
+    sums = [sum(counts[link] for counts in tried.values()) for link in LINKS]
+    table.append(f"| **all {sum(sums):,}** | " + " | ".join(f"**{count:,}**" for count in sums) + " |")
+    return "\n".join(table)
 
 
 def line(results, name):
@@ -135,7 +163,7 @@ def main():
     facts = {"machine": machine(), "coverage": coverage(results), "speed": speed(results),
              "peers": lines(results, "peers"), "static": line(results, "static"), "release": suite(results, "release"),
              "tests": suite(results, "dev"), "asan": suite(results, "asan"), "tsan": suite(results, "tsan"),
-             "calls": lines(results, "calls"), "late": lines(results, "late"), "fuzz": lines(results, "fuzz")}
+             "calls": without_faults(lines(results, "calls")), "faults": faults(results), "late": lines(results, "late"), "fuzz": lines(results, "fuzz")}
     for page in ("reliability", "performance"):
         template = string.Template((HERE / f"{page}.md.in").read_text(encoding="utf-8"))
         (docs / f"{page}.md").write_text(template.substitute(facts), encoding="utf-8")
