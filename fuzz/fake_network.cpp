@@ -32,6 +32,7 @@ struct Connection {
   bool reset = false;
   milliseconds wait{0};  // until `heard` may be received
   std::string heard;
+  std::size_t taken = 0;  // of it
   bool hung_up = false;
 };
 
@@ -100,11 +101,16 @@ const Disturbance* Befalling(Disturbance::Call call) {
   return &state.disturbance;
 }
 
+void Forget(Connection& connection) {
+  connection.heard.clear();
+  connection.taken = 0;
+}
+
 bool EndsAConnection(int error) { return error == ECONNRESET || error == EPIPE || error == ETIMEDOUT; }
 
 ssize_t FailOn(Connection& connection, int error) {
   if (EndsAConnection(error)) {
-    connection.heard.clear();
+    Forget(connection);
     connection.finished = connection.reset = true;
   }
   return Fail(error);
@@ -121,9 +127,10 @@ ssize_t Receive(Connection& connection, void* into, std::size_t room, int flags)
   }
   if (!Readable(connection)) return Fail(EAGAIN);
   if (Ended(connection)) return connection.reset ? Fail(ECONNRESET) : 0;
-  const std::size_t count = std::min(room, connection.heard.size());
-  std::memcpy(into, connection.heard.data(), count);
-  connection.heard.erase(0, count);
+  const std::size_t count = std::min(room, connection.heard.size() - connection.taken);
+  std::memcpy(into, connection.heard.data() + connection.taken, count);
+  connection.taken += count;
+  if (connection.taken == connection.heard.size()) Forget(connection);
   return static_cast<ssize_t>(count);
 }
 
@@ -146,7 +153,7 @@ ssize_t Send(Connection& connection, std::span<const iovec> pieces, int flags) {
   }
   if (connection.closed) {
     // The kernel takes it, and learns that nobody is there.
-    connection.heard.clear();
+    Forget(connection);
     connection.reset = true;
     return static_cast<ssize_t>(std::min(room, SizeOf(pieces)));
   }

@@ -370,7 +370,8 @@ TEST_P(Answers, OfTenMegabytesStayWithinTheBuffer) {
     cases.Count();
     Bench bench(link());
     bench.instrument.Answer(answer);
-    bench.instrument.TwistAnswers(InPieces(kPiece, {}));
+    // A message that was begun would have to be ended before a device clear; so it is one piece.
+    if (!is_framed()) bench.instrument.TwistAnswers(InPieces(kPiece, {}));
     const Outcome outcome = bench.Make(reader.call);
     ExpectInTime(reader.call, outcome);
     EXPECT_STATUS(VI_SUCCESS, bench.AskAnew());
