@@ -4,6 +4,7 @@
 
 #include <array>
 #include <atomic>
+#include <cassert>
 #include <mutex>
 #include <utility>
 
@@ -58,16 +59,23 @@ Place* PlaceOf(ViObject handle) {
   return block == nullptr ? nullptr : &(*block)[index % kPlacesPerBlock];
 }
 
+// One of those that the table has made.
+Place& OwnPlace(std::uint32_t index) {
+  Place* const place = PlaceOf(index);
+  assert(place != nullptr);
+  return *place;
+}
+
 // Both under the table's guard.
 void PushFree(Table& table, std::uint32_t index) {
-  PlaceOf(index)->next_free = kNoPlace;
-  (table.first_free == kNoPlace ? table.first_free : PlaceOf(table.last_free)->next_free) = index;
+  OwnPlace(index).next_free = kNoPlace;
+  (table.first_free == kNoPlace ? table.first_free : OwnPlace(table.last_free).next_free) = index;
   table.last_free = index;
 }
 
 std::uint32_t PopFree(Table& table) {
   const std::uint32_t index = table.first_free;
-  table.first_free = PlaceOf(index)->next_free;
+  table.first_free = OwnPlace(index).next_free;
   return index;
 }
 
