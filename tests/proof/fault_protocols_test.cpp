@@ -353,7 +353,7 @@ std::vector<Fault> FaultsOfRecords() {
   }
   faults.push_back({"an empty record", PatchWord(wire::kRpcMark, 0x80000000U), {kVisaConnectionLost}});
   faults.push_back({"no last fragment", Add(wire::kRpcMark, 0x80000000U), {kVisaTimeout, kVisaConnectionLost}, true});
-  for (const std::size_t size : {1, 2, 3, 4, 5, 7, 16, 28}) {
+  for (const std::size_t size : {1U, 2U, 3U, 4U, 5U, 7U, 16U, 28U}) {
     for (const bool with_empty : {false, true}) {
       faults.push_back({"fragments of " + std::to_string(size) + (with_empty ? " and empty ones" : ""),
                         InstrumentSays([=](const std::string& bytes) { return InFragments(bytes, size, with_empty); }),
