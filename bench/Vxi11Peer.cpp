@@ -7,7 +7,7 @@
 namespace bench {
 namespace {
 
-enum Procedure : std::uint32_t { kCreateLink = 10, kDeviceWrite = 11, kDeviceRead = 12 };
+enum Procedure : std::uint32_t { kNull = 0, kCreateLink = 10, kDeviceWrite = 11, kDeviceRead = 12 };
 constexpr std::uint32_t kCoreProgram = 395183;
 constexpr std::uint32_t kMostReceived = 1 << 20;
 constexpr std::uint32_t kLastFragment = 0x80000000;
@@ -71,6 +71,9 @@ void Vxi11Peer::Serve(int connection) const {
     const std::uint32_t xid = word(0);
     bool good = true;
     switch (word(5)) {
+      case kNull:
+        good = Reply(connection, xid, {});
+        break;
       case kCreateLink:
         good = Reply(connection, xid, Pack(0, 1, port(), kMostReceived));
         break;

@@ -5,6 +5,7 @@
 
 #include <visa.h>
 
+#include <deque>
 #include <string>
 #include <vector>
 
@@ -35,32 +36,33 @@ class Device : public Peer {
       Require((mark & 0x80000000U) != 0, "the client sends a record in one fragment");
       if (heard_.size() - 4 < length) return;
       Require(length >= 40 && NumberAt(heard_, 8) == 0, "the client sends calls");
-      number_ = NumberAt(heard_, 4);
-      program_ = NumberAt(heard_, 16);
-      procedure_ = NumberAt(heard_, 24);
-      asked_ = NumberAt(heard_, procedure_ == kWrite ? 60 : 48);
+      const std::uint32_t procedure = NumberAt(heard_, 24);
+      calls_.push_back(
+          {NumberAt(heard_, 4), NumberAt(heard_, 16), procedure, NumberAt(heard_, procedure == kWrite ? 60 : 48)});
       heard_.erase(0, 4 + length);
     }
   }
 
+  // Of several calls the oldest is answered first; of no call, the last once more.
   Speech Speak() override {
-    if (obliging_) return Say(Answer());
+    if (!calls_.empty()) call_ = calls_.front();
+    if (obliging_) return Reply(Answer());
     if (input_.empty()) return {Speech::Kind::kClose, {}, {}};
     switch (input_.Byte() % 9) {
       case 0:
-        return Say(Answer());
+        return Reply(Answer());
       case 1:  // a reply with any results
-        return Say(Record(Head() + input_.Text()));
+        return Reply(Record(Head() + input_.Text()));
       case 2: {  // what was read, with a reason
         const std::uint32_t reason = input_.Byte();
-        return Say(Record(Head() + Word(0) + Word(reason) + Opaque(input_.Line() + '\n')));
+        return Reply(Record(Head() + Word(0) + Word(reason) + Opaque(input_.Line() + '\n')));
       }
       case 3:  // an error
-        return Say(Record(Head() + Word(input_.Byte()) + Word(0) + Word(0)));
+        return Reply(Record(Head() + Word(input_.Byte()) + Word(0) + Word(0)));
       case 4: {  // a reply in two fragments
         const std::string whole = Head() + input_.Text();
         const std::size_t first = input_.Choice(whole.size());
-        return Say(Word(static_cast<std::uint32_t>(first)) + whole.substr(0, first) + Record(whole.substr(first)));
+        return Reply(Word(static_cast<std::uint32_t>(first)) + whole.substr(0, first) + Record(whole.substr(first)));
       }
       case 5:
         return Say(input_.Text());
@@ -79,23 +81,29 @@ class Device : public Peer {
 
  private:
   static constexpr std::uint32_t kPortMapper = 100000;
-  static constexpr std::uint32_t kCreateLink = 10, kWrite = 11, kRead = 12, kReadStatusByte = 13;
+  static constexpr std::uint32_t kNull = 0, kCreateLink = 10, kWrite = 11, kRead = 12, kReadStatusByte = 13;
 
+  Speech Reply(std::string bytes) {
+    if (!calls_.empty()) calls_.pop_front();
+    return Say(std::move(bytes));
+  }
   static Speech Say(std::string bytes) {
     if (bytes.empty()) return {Speech::Kind::kSilence, {}, {}};
     return {Speech::Kind::kBytes, {}, std::move(bytes)};
   }
 
-  std::string Head() const { return Word(number_) + Word(1) + Word(0) + Word(0) + Word(0) + Word(0); }
+  std::string Head() const { return Word(call_.number) + Word(1) + Word(0) + Word(0) + Word(0) + Word(0); }
 
-  // What a device owes to the last call.
+  // What a device owes to the call.
   std::string Answer() const {
-    if (program_ == kPortMapper) return Record(Head() + Word(1024));
-    switch (procedure_) {
+    if (call_.program == kPortMapper) return Record(Head() + Word(1024));
+    switch (call_.procedure) {
+      case kNull:
+        return Record(Head());
       case kCreateLink:
         return Record(Head() + Word(0) + Word(7) + Word(1025) + Word(4096));
       case kWrite:
-        return Record(Head() + Word(0) + Word(asked_));
+        return Record(Head() + Word(0) + Word(call_.size));
       case kRead:
         return Record(Head() + Word(0) + Word(4) + Opaque("1\n"));
       case kReadStatusByte:
@@ -108,10 +116,14 @@ class Device : public Peer {
   Input& input_;
   bool obliging_;
   std::string heard_;
-  std::uint32_t number_ = 0;
-  std::uint32_t program_ = 0;
-  std::uint32_t procedure_ = 0;
-  std::uint32_t asked_ = 0;  // the length of what was written
+  struct Heard {
+    std::uint32_t number = 0;
+    std::uint32_t program = 0;
+    std::uint32_t procedure = 0;
+    std::uint32_t size = 0;  // of what was written
+  };
+  std::deque<Heard> calls_;  // not answered yet
+  Heard call_;
 };
 
 void Read(VisaLink& link, std::size_t size) {

@@ -4,6 +4,7 @@
 #include <asio/buffer.hpp>
 #include <asio/write.hpp>
 #include <cstring>
+#include <vector>
 
 #include "link/connection.h"
 
@@ -42,15 +43,16 @@ void Channel::Resume() {
 }
 
 // Goes on with what has been received, as far as the receiver lets it. Reading goes on ahead of it, so that the end of
-// the connection is seen while a call is under way.
+// the connection is seen while a call is under way. What is answered in the meantime goes in one piece.
 void Channel::Advance() {
   const auto self = shared_from_this();
   advancing_ = true;
   while (receiver_ && socket_.is_open()) {
     const auto receiver = receiver_;
     if (!in_record_) {
-      if (!outgoing_.empty()) break;  // who takes no answers is asked no more
+      if (writing_ || HasEnoughToSend()) break;  // who takes no answers is asked no more
       if (!receiver->Ready()) {
+        if (!outgoing_.empty()) break;
         if (ended_) {
           receiver->Lost(*this);
         } else {
@@ -61,6 +63,7 @@ void Channel::Advance() {
       in_record_ = true;
     }
     if (!Assemble()) {
+      if (!outgoing_.empty()) break;
       if (malformed_ || ended_) {
         receiver->Lost(*this);
       } else {
@@ -74,6 +77,7 @@ void Channel::Advance() {
     if (record_.capacity() > kStep) record_.shrink_to_fit();
   }
   advancing_ = false;
+  if (!writing_ && !outgoing_.empty()) Write();
 }
 
 // True when the record is complete.
@@ -157,24 +161,42 @@ void Channel::Push(std::string record, std::size_t announced, bool broken) {
     return;
   }
   outgoing_.push_back({Mark(announced), std::move(record), broken});
-  if (!writing_) Write();
+  if (!writing_ && !advancing_) Write();
+}
+
+bool Channel::HasEnoughToSend() const {
+  constexpr std::size_t kGathered = 16;
+  std::size_t size = 0;
+  for (const Outgoing& each : outgoing_) {
+    if (each.broken) return true;
+    size += each.record.size();
+  }
+  return outgoing_.size() >= kGathered || size >= kStep;
 }
 
 void Channel::Write() {
   writing_ = true;
-  const Outgoing& next = outgoing_.front();
-  const std::array<asio::const_buffer, 2> buffers{asio::buffer(next.mark), asio::buffer(next.record)};
-  asio::async_write(socket_, buffers, [self = shared_from_this()](const asio::error_code& problem, std::size_t) {
-    self->writing_ = false;
-    const bool over = problem || self->outgoing_.empty() || self->outgoing_.front().broken;
-    if (over) return self->GiveUp();
-    self->outgoing_.pop_front();
-    if (!self->outgoing_.empty()) {
-      self->Write();
-    } else {
-      self->Resume();
-    }
-  });
+  std::vector<asio::const_buffer> buffers;
+  std::size_t count = 0;
+  bool broken = false;
+  for (const Outgoing& next : outgoing_) {
+    buffers.push_back(asio::buffer(next.mark));
+    buffers.push_back(asio::buffer(next.record));
+    ++count;
+    broken = next.broken;
+    if (broken) break;
+  }
+  asio::async_write(
+      socket_, buffers, [self = shared_from_this(), count, broken](const asio::error_code& problem, std::size_t) {
+        self->writing_ = false;
+        if (problem || broken || self->outgoing_.size() < count) return self->GiveUp();
+        self->outgoing_.erase(self->outgoing_.begin(), self->outgoing_.begin() + static_cast<std::ptrdiff_t>(count));
+        if (!self->outgoing_.empty()) {
+          self->Write();
+        } else {
+          self->Resume();
+        }
+      });
 }
 
 void Channel::GiveUp() {

@@ -57,6 +57,7 @@ class Channel : public std::enable_shared_from_this<Channel> {
   void Read();
   void Arrived(const asio::error_code& problem, std::size_t count, bool direct);
   void Push(std::string record, std::size_t announced, bool broken);
+  bool HasEnoughToSend() const;
   void Write();
   void Forget();
   void GiveUp();

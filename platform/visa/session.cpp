@@ -92,6 +92,10 @@ ViStatus Session::Printf(const char* format, Args& args, Deadline& deadline) {
 
 ViStatus Session::Scanf(const char* format, Args& args, Deadline& deadline) {
   input_.BeginCall(deadline);
+  return Scan(format, args, deadline);
+}
+
+ViStatus Session::Scan(const char* format, Args& args, Deadline& deadline) {
   const ViStatus status = ReadFormat(format, args, input_);
   if (status < 0 || settings_[Settings::kReadBufferMode] != VI_FLUSH_ON_ACCESS) return status;
   const ViStatus flushed = input_.DiscardMessage(deadline);
@@ -101,11 +105,21 @@ ViStatus Session::Scanf(const char* format, Args& args, Deadline& deadline) {
 ViStatus Session::Queryf(const char* write_format, const char* read_format, Args& args, Deadline& deadline) {
   // What an earlier answer left behind must not be taken for this one's.
   if (const ViStatus status = input_.DiscardMessage(deadline); status < 0) return status;
+  // Where the protocol has a call for either, the read goes along with the question: so it is one message, and read
+  // from.
+  const bool ahead = transport().ReadsAhead() && IsOneMessage(write_format) && *read_format != '\0';
+  if (ahead) transport().ExpectRead(input_.Room(), settings_.Termchar());
   output_.BeginCall(deadline);
   ViStatus status = WriteFormat(write_format, args, output_);
   if (status >= 0) output_.Flush(true);
   status = output_.FinishCall(status);
-  return status < 0 ? status : Scanf(read_format, args, deadline);
+  if (status < 0) {
+    if (ahead) transport().ExpectNoRead();
+    return status;
+  }
+  input_.BeginCall(deadline);
+  if (ahead) input_.Fetch();
+  return Scan(read_format, args, deadline);
 }
 
 ViStatus Session::FlushWrites(Deadline& deadline) {

@@ -87,6 +87,7 @@ class Session final : public AttributeOwner {
   const Settings& settings() const { return settings_; }
 
  private:
+  ViStatus Scan(const char* format, Args& args, Deadline& deadline);
   ViStatus FlushWrites(Deadline& deadline);
   ViStatus SwitchServiceRequests(bool on);
 

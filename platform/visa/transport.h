@@ -44,6 +44,12 @@ class Transport {
   // Sends the pieces as one message part; `end` puts END on the last byte. May change the pieces.
   virtual ViStatus Write(std::span<iovec> pieces, bool end, Deadline& deadline, std::size_t& sent) = 0;
 
+  // May a question go to the device together with the call that asks for its answer? Then ExpectRead tells before the
+  // Write of a message that the next call is a Read into this much room. ExpectNoRead takes it back.
+  virtual bool ReadsAhead() const { return false; }
+  virtual void ExpectRead(std::size_t /*room*/, std::optional<ViByte> /*termchar*/) {}
+  virtual void ExpectNoRead() {}
+
   // Device clear, as far as the protocol has one; nothing received before it is read after it.
   virtual ViStatus Clear(Deadline& deadline) = 0;
   // Drops received bytes that nobody has read, on this side only.

@@ -2,6 +2,7 @@
 #include "vxi11.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "text_out.h"
 #include "vxi11_port.h"
@@ -15,6 +16,10 @@ constexpr std::size_t kAbortBuffer = 512;
 // For exchanges that a session without a timeout makes all the same.
 constexpr ViUInt32 kOwnPatience = 2000;
 constexpr ViUInt32 kAbortPatience = 250;
+constexpr ViUInt32 kAbortPause = 20;
+// A device that takes two calls at a time shows it at once. Of the time for opening this is a small share at most.
+constexpr ViUInt32 kProbePatience = 250;
+constexpr ViUInt32 kProbeShare = 8;
 constexpr ViUInt32 kFarewellPatience = 100;
 constexpr ViUInt32 kOnTheWay = 50;
 // Names this client in the device's lists, and nothing else.
@@ -86,7 +91,7 @@ Vxi11Transport::~Vxi11Transport() {
 }
 
 ViStatus Vxi11Transport::Open(Deadline& deadline) {
-  switch (const ViStatus status = CreateLink(deadline)) {
+  switch (const ViStatus status = Connect(deadline)) {
     case VI_SUCCESS:
     case VI_ERROR_TMO:
     case VI_ERROR_ALLOC:
@@ -100,12 +105,34 @@ ViStatus Vxi11Transport::Open(Deadline& deadline) {
   }
 }
 
-ViStatus Vxi11Transport::CreateLink(Deadline& deadline) {
+ViStatus Vxi11Transport::Connect(Deadline& deadline) {
   ViUInt16 port = 0;
   if (const ViStatus status = FindCorePort(host_, kPortMapperPort, interruption_, deadline, port); status < 0) {
     return status;
   }
   if (const ViStatus status = core_.stream().Connect(host_, port, deadline); status < 0) return status;
+  ViUInt16 abort_port = 0;
+  if (const ViStatus status = CreateLink(deadline, abort_port); status < 0) return status;
+  Deadline prompt(std::min(TimeLeft(deadline) / kProbeShare, kProbePatience));
+  const ViStatus probed = core_.ProbeForTwo(prompt);
+  if (probed == VI_ERROR_ABORT) return probed;
+  takes_two_ = probed >= 0;
+  if (probed == VI_ERROR_CONN_LOST) {
+    // It does not stand the question. A link without an answer to it is a link still.
+    linked_ = false;
+    if (const ViStatus status = core_.Reconnect(host_, port, deadline); status < 0) return status;
+    if (const ViStatus status = CreateLink(deadline, abort_port); status < 0) return status;
+  }
+
+  // Connected beforehand, so that giving up a call is one send. A device that cannot be told to give up is a device
+  // still. A name may stand for several machines; both connections must go to the same one.
+  const std::string peer = host_.find('%') == std::string::npos ? core_.stream().PeerAddress() : host_;
+  Deadline share(std::min(TimeLeft(deadline), kOwnPatience / 4));
+  abort_connected_ = abort_port != 0 && abort_.stream().Connect(peer, abort_port, share) >= 0;
+  return VI_SUCCESS;
+}
+
+ViStatus Vxi11Transport::CreateLink(Deadline& deadline, ViUInt16& abort_port) {
   std::string name = device_name_;
   Create_LinkParms arguments{kClientId, FALSE, 0, name.data()};
   if (const ViStatus status = core_.Send(CREATE_LINK, xdr_Create_LinkParms, arguments, deadline); status < 0) {
@@ -117,12 +144,7 @@ ViStatus Vxi11Transport::CreateLink(Deadline& deadline) {
   lid_ = link.lid;
   linked_ = true;
   most_data_ = DataWithin(link.max_recv_size);
-
-  // Connected beforehand, so that giving up a call is one send. A device that cannot be told to give up is a device
-  // still. A name may stand for several machines; both connections must go to the same one.
-  const std::string peer = host_.find('%') == std::string::npos ? core_.stream().PeerAddress() : host_;
-  Deadline share(std::min(TimeLeft(deadline), kOwnPatience / 4));
-  abort_connected_ = link.abort_port != 0 && abort_.stream().Connect(peer, link.abort_port, share) >= 0;
+  abort_port = link.abort_port;
   return VI_SUCCESS;
 }
 
@@ -156,6 +178,7 @@ ViStatus Vxi11Transport::StatusOf(int error) {
 
 ViStatus Vxi11Transport::Prepare(Deadline& deadline) {
   if (hung_up_ || !linked_) return VI_ERROR_CONN_LOST;
+  if (read_to_be_ended_) return AwaitEndOfCalls(deadline);
   return abort_unanswered_ ? AwaitAbort(deadline) : VI_SUCCESS;
 }
 
@@ -174,12 +197,36 @@ ViStatus Vxi11Transport::AwaitAbort(Deadline& deadline) {
   return VI_SUCCESS;
 }
 
+// An abort ends the one call that the device is at. A read that went along with a message begins when that is through,
+// which may be behind the abort, and would keep the next call waiting for all of its time.
+ViStatus Vxi11Transport::AwaitEndOfCalls(Deadline& deadline) {
+  Deadline share(std::min(TimeLeft(deadline), kAbortPatience));
+  for (;;) {
+    if (abort_unanswered_) {
+      if (const ViStatus status = AwaitAbort(share); status < 0) return status;
+    }
+    if (!abort_connected_) break;
+    Deadline pause(kAbortPause);
+    const ViStatus status = core_.AwaitReply(*read_to_be_ended_, pause);
+    if (status == VI_ERROR_ABORT) return status;
+    if (status == VI_ERROR_CONN_LOST || status == kMalformed) return Settle(status);
+    if (status != VI_ERROR_TMO || share.Expired()) break;
+    Abort();
+  }
+  // Without an abort channel it ends by its own time; in any case its reply is passed over by its number.
+  read_to_be_ended_.reset();
+  return VI_SUCCESS;
+}
+
 // Ends what cannot go on: the call at the device, or the link.
 ViStatus Vxi11Transport::Settle(ViStatus status) {
   if (status == kMalformed) status = VI_ERROR_CONN_LOST;
   if (status == VI_ERROR_CONN_LOST || core_.SentInPart()) {
     Disconnect();
   } else if (status == VI_ERROR_TMO || status == VI_ERROR_ABORT) {
+    // A device says itself when time is up. One that does not may have lost a call behind another.
+    if (read_ahead_ && status == VI_ERROR_TMO) takes_two_ = false;
+    read_to_be_ended_ = std::exchange(read_ahead_, {});
     Abort();
   }
   return status == VI_ERROR_ABORT && hung_up_ ? VI_ERROR_CONN_LOST : status;
@@ -191,8 +238,16 @@ void Vxi11Transport::Abort() {
   abort_unanswered_ = abort_.Send(DEVICE_ABORT, xdr_Device_Link, lid_, at_once) >= 0;
 }
 
+void Vxi11Transport::GiveUpReadAhead() {
+  if (!read_ahead_) return;
+  read_to_be_ended_ = std::exchange(read_ahead_, {});
+  Abort();
+}
+
 void Vxi11Transport::Disconnect() {
   linked_ = false;
+  read_ahead_.reset();
+  read_to_be_ended_.reset();
   core_.stream().HangUp();
   abort_.stream().HangUp();
 }
@@ -204,7 +259,12 @@ void Vxi11Transport::Farewell() {
   interruption_.BeginCall();
   Deadline deadline(kFarewellPatience);
   Device_Error answer{};
-  if (abort_unanswered_) AwaitAbort(deadline);
+  GiveUpReadAhead();
+  if (read_to_be_ended_) {
+    AwaitEndOfCalls(deadline);
+  } else if (abort_unanswered_) {
+    AwaitAbort(deadline);
+  }
   if (core_.Send(DESTROY_LINK, xdr_Device_Link, lid_, deadline) >= 0) {
     core_.Receive(xdr_Device_Error, answer, deadline);
   }

@@ -17,6 +17,7 @@
 #include <atomic>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -40,6 +41,9 @@ class Vxi11Transport final : public InstrTransport {
 
   ViStatus Read(const ReadRequest& request, Deadline& deadline, std::size_t& received) override;
   ViStatus Write(std::span<iovec> pieces, bool end, Deadline& deadline, std::size_t& sent) override;
+  bool ReadsAhead() const override { return takes_two_; }
+  void ExpectRead(std::size_t room, std::optional<ViByte> termchar) override;
+  void ExpectNoRead() override;
   ViStatus Clear(Deadline& deadline) override;
   // Between two calls nothing waits on this side.
   void DiscardInput() override {}
@@ -54,7 +58,8 @@ class Vxi11Transport final : public InstrTransport {
 
  private:
   const TcpStream& stream() const override { return core_.stream(); }
-  ViStatus CreateLink(Deadline& deadline);
+  ViStatus Connect(Deadline& deadline);
+  ViStatus CreateLink(Deadline& deadline, ViUInt16& abort_port);
   // One call on the core channel, and what becomes of the link when it fails.
   template <class Arguments, class Results>
   ViStatus Ask(ViUInt32 procedure, bool_t (*encode)(XDR*, Arguments*), Arguments& arguments,
@@ -78,14 +83,18 @@ class Vxi11Transport final : public InstrTransport {
 
   ViStatus Prepare(Deadline& deadline);
   ViStatus AwaitAbort(Deadline& deadline);
+  ViStatus AwaitEndOfCalls(Deadline& deadline);
   ViStatus Settle(ViStatus status);
   void Abort();
+  void GiveUpReadAhead();
   void Disconnect();
   void Farewell();
   ViStatus StartInterrupts(Deadline& deadline);
 
   // vxi11_data.cpp
+  Device_ReadParms ReadParms(std::size_t room, ViUInt32 time, std::optional<ViByte> termchar) const;
   ViStatus ReadPart(const ReadRequest& request, Deadline& deadline, std::size_t& received, int& reason);
+  ViStatus ReceiveReadAhead(Device_ReadResp& answer, Deadline& patience);
   ViStatus WritePart(std::span<const iovec> part, std::size_t length, bool end, Deadline& deadline, std::size_t& taken);
 
   Interruption& interruption_;
@@ -101,7 +110,16 @@ class Vxi11Transport final : public InstrTransport {
   bool linked_ = false;
   bool abort_connected_ = false;
   bool abort_unanswered_ = false;
-  bool interrupts_in_doubt_ = false;  // the device has not said whether it made the channel
+  // A question and its read go in one send: the device was seen to take two calls at a time.
+  bool takes_two_ = false;
+  struct ExpectedRead {
+    std::size_t room;
+    std::optional<ViByte> termchar;
+  };
+  std::optional<ExpectedRead> expected_read_;
+  std::optional<ViUInt32> read_ahead_;        // the call that went along with the last message
+  std::optional<ViUInt32> read_to_be_ended_;  // such a call that nobody waits for any more
+  bool interrupts_in_doubt_ = false;          // the device has not said whether it made the channel
   std::size_t most_data_ = 0;
   std::vector<iovec> pieces_;
 };

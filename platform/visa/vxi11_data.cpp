@@ -11,8 +11,20 @@ constexpr std::size_t kMostRequested = 1024 * 1024;
 
 }  // namespace
 
+void Vxi11Transport::ExpectRead(std::size_t room, std::optional<ViByte> termchar) {
+  const std::lock_guard busy(busy_);
+  expected_read_ = {room, termchar};
+}
+
+void Vxi11Transport::ExpectNoRead() {
+  const std::lock_guard busy(busy_);
+  expected_read_.reset();
+  GiveUpReadAhead();
+}
+
 ViStatus Vxi11Transport::Read(const ReadRequest& request, Deadline& deadline, std::size_t& received) {
   const std::lock_guard busy(busy_);
+  expected_read_.reset();
   received = 0;
   for (;;) {
     // A device that always has more to give must not keep a call for ever, however often the call comes back here.
@@ -28,24 +40,33 @@ ViStatus Vxi11Transport::Read(const ReadRequest& request, Deadline& deadline, st
   }
 }
 
+Device_ReadParms Vxi11Transport::ReadParms(std::size_t room, ViUInt32 time, std::optional<ViByte> termchar) const {
+  return {lid_,
+          static_cast<u_int>(std::min(room, kMostRequested)),
+          time,
+          0,
+          termchar ? kTermcharSet : 0,
+          static_cast<char>(termchar.value_or(0))};
+}
+
+ViStatus Vxi11Transport::ReceiveReadAhead(Device_ReadResp& answer, Deadline& patience) {
+  const ViStatus status = core_.Receive(*read_ahead_, xdr_Device_ReadResp, answer, patience);
+  if (status != VI_ERROR_TMO && status != VI_ERROR_ABORT) read_ahead_.reset();
+  return Settle(status);
+}
+
 ViStatus Vxi11Transport::ReadPart(const ReadRequest& request, Deadline& deadline, std::size_t& received, int& reason) {
   const std::size_t room = std::min(request.room - received, kMostRequested);
   const ViUInt32 time = TimeLeft(deadline);
   Deadline patience = Patience(time);
-  Device_ReadParms arguments{lid_,
-                             static_cast<u_int>(room),
-                             time,
-                             0,
-                             request.termchar ? kTermcharSet : 0,
-                             static_cast<char>(request.termchar.value_or(0))};
+  Device_ReadParms arguments = ReadParms(room, time, request.termchar);
   Device_ReadResp answer{};
-  if (const ViStatus status = Ask(DEVICE_READ, xdr_Device_ReadParms, arguments, xdr_Device_ReadResp, answer, patience);
-      status < 0) {
-    return status;
-  }
+  ViStatus status = read_ahead_
+                        ? ReceiveReadAhead(answer, patience)
+                        : Ask(DEVICE_READ, xdr_Device_ReadParms, arguments, xdr_Device_ReadResp, answer, patience);
+  if (status < 0) return status;
   std::size_t count = 0;
-  const ViStatus status =
-      core_.ReadData(request.into + received, std::min<std::size_t>(answer.data_length, room), patience, count);
+  status = core_.ReadData(request.into + received, std::min<std::size_t>(answer.data_length, room), patience, count);
   received += count;
   if (status < 0) return Settle(status);
   reason = answer.reason;
@@ -91,17 +112,30 @@ ViStatus Vxi11Transport::WritePart(std::span<const iovec> part, std::size_t leng
   Deadline patience = Patience(time);
   Device_WriteParms arguments{lid_, time, 0, end ? kEnd : 0, static_cast<u_int>(length)};
   Device_WriteResp answer{};
-  if (const ViStatus status =
-          Ask(DEVICE_WRITE, xdr_Device_WriteParms, arguments, xdr_Device_WriteResp, answer, patience, part);
-      status < 0) {
-    return status;
+  ViStatus status = Prepare(patience);
+  if (status < 0) return status;
+  status = core_.Add(DEVICE_WRITE, xdr_Device_WriteParms, arguments, part);
+  const ViUInt32 write = core_.last_call();
+  if (status >= 0 && end && takes_two_ && expected_read_) {
+    Device_ReadParms read = ReadParms(expected_read_->room, time, expected_read_->termchar);
+    status = core_.Add(DEVICE_READ, xdr_Device_ReadParms, read);
+    read_ahead_ = core_.last_call();
   }
+  if (status >= 0) status = core_.SendAdded(patience);
+  if (status >= 0) status = core_.Receive(write, xdr_Device_WriteResp, answer, patience);
+  if (status = Settle(status); status < 0) return status;
   if (answer.error != 0) {
+    GiveUpReadAhead();
     taken = answer.size < length ? answer.size : 0;
     return StatusOf(answer.error);
   }
   if (answer.size > length) return Settle(kMalformed);
   taken = answer.size;
+  if (taken < length && read_ahead_) {
+    // What it was to read answers a message that is not complete. It would happen again.
+    GiveUpReadAhead();
+    takes_two_ = false;
+  }
   // Taking nothing without a word why would go on for ever.
   return taken == 0 ? VI_ERROR_IO : VI_SUCCESS;
 }

@@ -150,7 +150,8 @@ bool InterruptServer::Answer(RecordStream& caller, const rpc_msg& call, int acce
   if (xdr_replymsg(&xdr, &reply) == FALSE) return false;
   // A device that never reads the answers fills the connection with them one day, and must call anew then.
   Deadline at_once(VI_TMO_IMMEDIATE);
-  return caller.Send(std::span(bytes).first(RecordStream::kMarkSize + XDR_GETPOS(&xdr)), {}, at_once) >= 0;
+  caller.Add(std::span(bytes).first(RecordStream::kMarkSize + XDR_GETPOS(&xdr)));
+  return caller.Send(at_once) >= 0;
 }
 
 void InterruptServer::Close() {

@@ -21,10 +21,9 @@ ViUInt32 Number(const ViByte* in) {
 
 }  // namespace
 
-ViStatus RecordStream::Send(std::span<ViByte> head, std::span<const iovec> data, Deadline& deadline) {
+void RecordStream::Add(std::span<ViByte> head, std::span<const iovec> data) {
   static constexpr std::array<ViByte, BYTES_PER_XDR_UNIT> kZeros{};
   std::size_t data_length = 0;
-  gather_.clear();
   gather_.push_back({head.data(), head.size()});
   for (const iovec& piece : data) {
     gather_.push_back(piece);
@@ -34,11 +33,21 @@ ViStatus RecordStream::Send(std::span<ViByte> head, std::span<const iovec> data,
   if (padding > 0) gather_.push_back({const_cast<ViByte*>(kZeros.data()), padding});
   const std::size_t length = head.size() - kMarkSize + data_length + padding;
   PutNumber(head.data(), kLastFragment | static_cast<ViUInt32>(length));
+}
 
+ViStatus RecordStream::Send(Deadline& deadline) {
   std::size_t sent = 0;
   const ViStatus status = stream_.Send(gather_, deadline, sent);
+  gather_.clear();
   if (status < 0 && sent > 0) sent_in_part_ = true;
   return status;
+}
+
+ViStatus RecordStream::Reconnect(const std::string& host, ViUInt16 port, Deadline& deadline) {
+  sent_in_part_ = false;
+  begin_ = end_ = fragment_left_ = 0;
+  last_fragment_ = true;
+  return stream_.Reconnect(host, port, deadline);
 }
 
 ViStatus RecordStream::Fill(std::size_t at_least, Deadline& deadline) {

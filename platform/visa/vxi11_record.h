@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <span>
+#include <string>
 #include <vector>
 
 #include "deadline.h"
@@ -28,11 +29,16 @@ class RecordStream {
   const TcpStream& stream() const { return stream_; }
 
   // `head` begins with kMarkSize bytes for the record's mark, which is filled in here; `data` follow, and what XDR
-  // wants behind them. One system call when the kernel takes them.
+  // wants behind them. Both stay where they are until the next Send, which takes along all that was added.
   static constexpr std::size_t kMarkSize = 4;
-  ViStatus Send(std::span<ViByte> head, std::span<const iovec> data, Deadline& deadline);
+  void Add(std::span<ViByte> head, std::span<const iovec> data = {});
+  // One system call when the kernel takes them.
+  ViStatus Send(Deadline& deadline);
   // A record was given up half-way: nothing that follows could be told from it.
   bool SentInPart() const { return sent_in_part_; }
+
+  // Another connection to the same peer in place of this one.
+  ViStatus Reconnect(const std::string& host, ViUInt16 port, Deadline& deadline);
 
   // Waits for the first byte of a record.
   ViStatus Next(Deadline& deadline);

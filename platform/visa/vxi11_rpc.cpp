@@ -8,24 +8,31 @@ bool_t NoResults(XDR*, ...) { return TRUE; }
 
 }  // namespace
 
-bool RpcCaller::BeginCall(ViUInt32 procedure, XDR& xdr) {
+bool RpcCaller::BeginCall(ViUInt32 number, ViUInt32 procedure, XDR& xdr) {
   rpc_msg call{};
-  call.rm_xid = ++call_number_;
+  call.rm_xid = number;
   call.rm_direction = CALL;
   call.rm_call.cb_rpcvers = RPC_MSG_VERSION;
   call.rm_call.cb_prog = program_;
   call.rm_call.cb_vers = version_;
   call.rm_call.cb_proc = procedure;
-  xdrmem_create(&xdr, reinterpret_cast<char*>(head_.data() + RecordStream::kMarkSize),
-                static_cast<u_int>(head_.size() - RecordStream::kMarkSize), XDR_ENCODE);
+  const std::span head = std::span(heads_).subspan(used_ + RecordStream::kMarkSize);
+  xdrmem_create(&xdr, reinterpret_cast<char*>(head.data()), static_cast<u_int>(head.size()), XDR_ENCODE);
   return xdr_callmsg(&xdr, &call) != FALSE;
 }
 
-ViStatus RpcCaller::FinishCall(XDR& xdr, std::span<const iovec> data, Deadline& deadline) {
-  return record_.Send(std::span(head_).first(RecordStream::kMarkSize + XDR_GETPOS(&xdr)), data, deadline);
+void RpcCaller::FinishCall(XDR& xdr, std::span<const iovec> data) {
+  const std::size_t length = RecordStream::kMarkSize + XDR_GETPOS(&xdr);
+  record_.Add(std::span(heads_).subspan(used_, length), data);
+  used_ += length;
 }
 
-ViStatus RpcCaller::AwaitReply(Deadline& deadline) {
+ViStatus RpcCaller::SendAdded(Deadline& deadline) {
+  used_ = 0;
+  return record_.Send(deadline);
+}
+
+ViStatus RpcCaller::AwaitReply(ViUInt32 call, Deadline& deadline) {
   for (;;) {
     if (const ViStatus status = record_.Next(deadline); status < 0) return status;
     std::array<char, MAX_AUTH_BYTES> verifier;
@@ -33,13 +40,31 @@ ViStatus RpcCaller::AwaitReply(Deadline& deadline) {
     reply.acpted_rply.ar_verf.oa_base = verifier.data();  // otherwise it would be allocated
     reply.acpted_rply.ar_results.proc = NoResults;
     if (const ViStatus status = record_.Decode(xdr_replymsg, reply, deadline); status < 0) return status;
-    if (reply.rm_xid == call_number_) {
+    if (reply.rm_xid == call) {
       if (reply.rm_reply.rp_stat != MSG_ACCEPTED) return VI_ERROR_IO;
       if (reply.acpted_rply.ar_stat == SUCCESS) return VI_SUCCESS;
       return reply.acpted_rply.ar_stat == PROC_UNAVAIL ? VI_ERROR_NSUP_OPER : VI_ERROR_IO;
     }
     if (deadline.Expired()) return VI_ERROR_TMO;
   }
+}
+
+ViStatus RpcCaller::ProbeForTwo(Deadline& deadline) {
+  // Numbers that none of the calls to come has: what is answered too late is passed over like any reply.
+  constexpr ViUInt32 kFirst = 0xFFFFFFFF;
+  constexpr ViUInt32 kSecond = 0;
+  for (const ViUInt32 number : {kFirst, kSecond}) {
+    XDR xdr;
+    BeginCall(number, NULLPROC, xdr);
+    FinishCall(xdr, {});
+  }
+  if (const ViStatus status = SendAdded(deadline); status < 0) return status;
+  for (const ViUInt32 number : {kFirst, kSecond}) {
+    const ViStatus status = AwaitReply(number, deadline);
+    // That there is no such procedure is an answer too.
+    if (status < 0 && status != VI_ERROR_NSUP_OPER) return status;
+  }
+  return VI_SUCCESS;
 }
 
 }  // namespace tvr::visa::vxi11

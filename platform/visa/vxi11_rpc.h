@@ -1,4 +1,4 @@
-// Calls to one RPC program over one connection, one after the other.
+// Calls to one RPC program over one connection.
 #pragma once
 
 #include <visa.h>
@@ -21,19 +21,37 @@ class RpcCaller {
   TcpStream& stream() { return record_.stream(); }
   const TcpStream& stream() const { return record_.stream(); }
   bool SentInPart() const { return record_.SentInPart(); }
+  ViStatus Reconnect(const std::string& host, ViUInt16 port, Deadline& deadline) {
+    return record_.Reconnect(host, port, deadline);
+  }
 
   // The arguments in XDR, and behind them `data`, of which they tell the length.
   template <class Arguments>
   ViStatus Send(ViUInt32 procedure, bool_t (*encode)(XDR*, Arguments*), Arguments& arguments, Deadline& deadline,
                 std::span<const iovec> data = {}) {
-    XDR xdr;
-    if (!BeginCall(procedure, xdr) || encode(&xdr, &arguments) == FALSE) return VI_ERROR_INV_PARAMETER;
-    return FinishCall(xdr, data, deadline);
+    const ViStatus status = Add(procedure, encode, arguments, data);
+    return status < 0 ? status : SendAdded(deadline);
   }
-  // The reply to the last call that was sent.
+  // Several calls in one send, for a peer that takes one while it answers another. The data must stay until then.
+  template <class Arguments>
+  ViStatus Add(ViUInt32 procedure, bool_t (*encode)(XDR*, Arguments*), Arguments& arguments,
+               std::span<const iovec> data = {}) {
+    XDR xdr;
+    if (!BeginCall(++last_call_, procedure, xdr) || encode(&xdr, &arguments) == FALSE) return VI_ERROR_INV_PARAMETER;
+    FinishCall(xdr, data);
+    return VI_SUCCESS;
+  }
+  ViStatus SendAdded(Deadline& deadline);
+  ViUInt32 last_call() const { return last_call_; }
+
+  // The reply to the last call, or to one before that was sent with it.
   template <class Results>
   ViStatus Receive(bool_t (*decode)(XDR*, Results*), Results& results, Deadline& deadline) {
-    const ViStatus status = AwaitReply(deadline);
+    return Receive(last_call_, decode, results, deadline);
+  }
+  template <class Results>
+  ViStatus Receive(ViUInt32 call, bool_t (*decode)(XDR*, Results*), Results& results, Deadline& deadline) {
+    const ViStatus status = AwaitReply(call, deadline);
     return status < 0 ? status : record_.Decode(decode, results, deadline);
   }
   // What follows the results in the same reply.
@@ -41,17 +59,23 @@ class RpcCaller {
     return record_.Read(into, count, deadline, received);
   }
 
+  // Does the peer take a call while another waits for its answer? Two that do nothing go in one send. VI_SUCCESS when
+  // both were answered, in their order and by the deadline.
+  ViStatus ProbeForTwo(Deadline& deadline);
+  // Waits for the reply, and leaves its results unread.
+  ViStatus AwaitReply(ViUInt32 call, Deadline& deadline);
+
  private:
-  bool BeginCall(ViUInt32 procedure, XDR& xdr);
-  ViStatus FinishCall(XDR& xdr, std::span<const iovec> data, Deadline& deadline);
-  ViStatus AwaitReply(Deadline& deadline);
+  bool BeginCall(ViUInt32 number, ViUInt32 procedure, XDR& xdr);
+  void FinishCall(XDR& xdr, std::span<const iovec> data);
 
   RecordStream record_;
   const ViUInt32 program_;
   const ViUInt32 version_;
-  ViUInt32 call_number_ = 0;
-  // The longest call is the one that names a device.
-  std::array<ViByte, 512> head_{};
+  ViUInt32 last_call_ = 0;
+  // The heads of what the next send takes. The longest call is the one that names a device.
+  std::array<ViByte, 512> heads_{};
+  std::size_t used_ = 0;
 };
 
 }  // namespace tvr::visa::vxi11

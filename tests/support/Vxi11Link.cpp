@@ -17,7 +17,7 @@ namespace kvtd::test {
 
 namespace {
 
-constexpr std::uint32_t kDeviceCore = 0x0607AF, kCreateLink = 10, kDeviceWrite = 11, kDeviceRead = 12,
+constexpr std::uint32_t kDeviceCore = 0x0607AF, kNull = 0, kCreateLink = 10, kDeviceWrite = 11, kDeviceRead = 12,
                         kDestroyLink = 23;
 constexpr std::uint32_t kNoError = 0, kNotAccessible = 3, kInvalidLink = 4, kParameterError = 5, kTimeout = 15;
 constexpr std::uint32_t kEndFlag = 0x08;
@@ -109,6 +109,8 @@ class Vxi11Connection {
     }
     if (!is_call || !is_core || !call->good()) return false;
     switch (procedure) {
+      case kNull:
+        return Reply(XdrOut());
       case kCreateLink:
         return CreateLink(*call);
       case kDeviceWrite:

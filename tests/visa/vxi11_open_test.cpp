@@ -30,6 +30,12 @@ TEST_F(Vxi11Opening, CreatesALinkAndConnectsForAborts) {
     peer_.Says(kCore, Bytes("80000028 00000001 00000001 00000000 00000000 00000000 00000000"
                             "00000000 00000007" +
                             Word(peer_.abort_port()) + "00001000"));
+    peer_.Hears(kCore, Bytes("80000028 FFFFFFFF 00000000 00000002 000607AF 00000001 00000000"
+                             "00000000 00000000 00000000 00000000"
+                             "80000028 00000000 00000000 00000002 000607AF 00000001 00000000"
+                             "00000000 00000000 00000000 00000000"));
+    peer_.Says(kCore, Bytes("80000018 FFFFFFFF 00000001 00000000 00000000 00000000 00000000"
+                            "80000018 00000000 00000001 00000000 00000000 00000000 00000000"));
     peer_.Accept(kAbort);
   });
   EXPECT_EQ(VI_SUCCESS, status);
@@ -87,8 +93,8 @@ TEST_F(Vxi11Opening, AServerThatClosesIsNotFound) {
 
 TEST_F(Vxi11Opening, ADeviceThatCannotAbortIsADeviceStill) {
   for (const std::string& port : {std::string("00000000"), Word(kvtd::test::UnusedPort())}) {
-    EXPECT_EQ(VI_SUCCESS, OpenAnswered(Reply(1, "00000000 00000007" + port + "00001000")));
-    peer_.Next(kCore, 68);
+    EXPECT_EQ(VI_SUCCESS, OpenAnswered(Reply(1, "00000000 00000007" + port + "00001000") + ProbeReply()));
+    peer_.Next(kCore, 68 + Probe().size());
     const Stopwatch watch;
     EXPECT_EQ("", Read(50));
     EXPECT_EQ(VI_ERROR_TMO, status_);

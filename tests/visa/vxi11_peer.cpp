@@ -26,6 +26,9 @@ std::string Reply(unsigned number, std::string_view results) {
   return Record(Word(number) + "00000001 00000000 00000000 00000000 00000000" + std::string(results));
 }
 
+std::string Probe() { return Call(0xFFFFFFFF, 0, "") + Call(0, 0, ""); }
+std::string ProbeReply() { return Reply(0xFFFFFFFF, "") + Reply(0, ""); }
+
 Vxi11Link::~Vxi11Link() {
   // So that nobody waits for an answer to destroy_link.
   for (const Side side : {kCore, kAbort, kInterrupt}) peer_.Closes(side);
@@ -39,11 +42,13 @@ ViStatus Vxi11Link::OpenWith(const std::function<void()>& script, ViUInt32 timeo
   return status;
 }
 
-void Vxi11Link::Open(std::string_view max_recv_size) {
+void Vxi11Link::Open(std::string_view max_recv_size, std::string_view probe_reply) {
   const ViStatus status = OpenWith([&] {
     peer_.Accept(kCore);
     peer_.Hears(kCore, Call(1, 10, "00005456 00000000 00000000 00000005 'inst0' 000000"));
     peer_.Says(kCore, Reply(1, "00000000 00000007" + Word(peer_.abort_port()) + std::string(max_recv_size)));
+    peer_.Hears(kCore, Probe());
+    peer_.Says(kCore, probe_reply);
     peer_.Accept(kAbort);
   });
   ASSERT_EQ(VI_SUCCESS, status);

@@ -24,6 +24,10 @@ std::string Call(unsigned number, unsigned procedure, std::string_view arguments
 std::string Reply(unsigned number, std::string_view results);
 std::string Word(unsigned long number);
 
+// What a client sends behind the answer to create_link, and what a device answers that takes two calls at a time.
+std::string Probe();
+std::string ProbeReply();
+
 enum Side { kCore, kAbort, kInterrupt };
 
 class Vxi11Peer : public LinkPeer {
@@ -45,7 +49,7 @@ class Vxi11Link : public LinkTest {
  protected:
   ~Vxi11Link() override;
   void SetUp() override { Open(); }
-  void Open(std::string_view max_recv_size = "00001000");
+  void Open(std::string_view max_recv_size = "00001000", std::string_view probe_reply = ProbeReply());
   // Opens while the peer plays `script`.
   ViStatus OpenWith(const std::function<void()>& script, ViUInt32 timeout = 2000, std::string_view device = "inst0");
 

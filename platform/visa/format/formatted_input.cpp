@@ -38,8 +38,7 @@ void FormattedInput::SetSize(std::size_t size) {
 ViStatus FormattedInput::Fill() {
   if (failed_ < 0) [[unlikely]]
     return std::exchange(failed_, VI_SUCCESS);
-  // A byte to look ahead at must fit beside one that is looked at, however small the caller made the buffer.
-  if (buffer_.size() < std::max<std::size_t>(size_, 4)) buffer_.resize(std::max<std::size_t>(size_, 4));
+  if (buffer_.size() < Room()) buffer_.resize(Room());
   const std::size_t unread = Unread();
   if (unread > 0) std::memmove(buffer_.data(), next_, unread);
   next_ = buffer_.data();

@@ -1,6 +1,7 @@
 // The formatted read buffer of a session.
 #pragma once
 
+#include <algorithm>
 #include <atomic>
 #include <vector>
 
@@ -29,6 +30,12 @@ class FormattedInput final : public ReadStream {
 
   // A low-level read through this buffer: what is in it first.
   ViStatus Read(ViByte* into, std::size_t count, std::size_t& received);
+
+  // Reads ahead of whoever takes the bytes, who will be told how that went.
+  void Fetch() { Refill(); }
+  // What a read into the empty buffer has. A byte to look ahead at must fit beside one that is looked at, however small
+  // the caller made the buffer.
+  std::size_t Room() const { return std::max<std::size_t>(size_, 4); }
 
   void FetchTerminator() override;
 

@@ -310,4 +310,18 @@ ViStatus Writer::ConvertBlock(const WriteDirective& directive, int count) {
 
 ViStatus WriteFormat(const char* format, Args& args, FormattedOutput& out) { return Writer(args, out).Write(format); }
 
+bool IsOneMessage(const char* format) {
+  while (*(format += std::strcspn(format, "%\\\n")) == '%') {
+    ++format;
+    WriteDirective directive;
+    if (*format == '%') {
+      ++format;
+    } else if (!ParseWriteDirective(format, directive) || directive.code == 'B') {
+      return false;
+    }
+  }
+  // Escapes are rare, and some of them are line feeds.
+  return *format == '\0' || (*format == '\n' && format[1] == '\0');
+}
+
 }  // namespace tvr::visa

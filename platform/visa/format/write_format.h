@@ -12,4 +12,7 @@ namespace tvr::visa {
 // null pointer. Otherwise the status of sending.
 ViStatus WriteFormat(const char* format, Args& args, FormattedOutput& out);
 
+// False when the format may end a message before its own end.
+bool IsOneMessage(const char* format);
+
 }  // namespace tvr::visa
