@@ -28,6 +28,8 @@ class Input {
     next_ += count;
     return {buffer_.data() + next_ - count, count};
   }
+  // Has something been received that was not taken?
+  bool HasMore() const { return next_ != last_; }
   bool Skip(std::uint64_t count) {
     while (count > 0) {
       const std::size_t part = static_cast<std::size_t>(std::min<std::uint64_t>(count, buffer_.size()));

@@ -34,14 +34,33 @@ std::string Call(Procedure procedure, std::string_view arguments) {
   return bytes.append(Pack(7, 0, 2, kCoreProgram, 1, procedure, 0, 0, 0, 0)).append(arguments);
 }
 
-bool Reply(int connection, std::uint32_t xid, std::string_view results, std::string_view data = {}) {
-  constexpr std::size_t kReplyHeader = 24;
-  const std::string padding((4 - data.size() % 4) % 4, 0);
-  std::string head = Pack(kLastFragment | (kReplyHeader + results.size() + data.size() + padding.size()));
-  head.append(Pack(xid, 1, 0, 0, 0, 0)).append(results);
-  if (data.size() <= 4096) return SendAll(connection, head.append(data).append(padding));
-  return SendAll(connection, head) && SendAll(connection, data) && (padding.empty() || SendAll(connection, padding));
-}
+// Replies on their way: those to calls that came together go together.
+class Replies {
+ public:
+  explicit Replies(int connection) : connection_(connection) {}
+
+  bool Add(std::uint32_t xid, std::string_view results, std::string_view data = {}) {
+    constexpr std::size_t kReplyHeader = 24;
+    constexpr std::size_t kWorthNoCopy = 4096;
+    const std::string padding((4 - data.size() % 4) % 4, 0);
+    bytes_.append(Pack(kLastFragment | (kReplyHeader + results.size() + data.size() + padding.size())));
+    bytes_.append(Pack(xid, 1, 0, 0, 0, 0)).append(results);
+    if (data.size() <= kWorthNoCopy) {
+      bytes_.append(data).append(padding);
+      return bytes_.size() <= kWorthNoCopy || Send();
+    }
+    return Send() && SendAll(connection_, data) && (padding.empty() || SendAll(connection_, padding));
+  }
+  bool Send() {
+    const bool good = SendAll(connection_, bytes_);
+    bytes_.clear();
+    return good;
+  }
+
+ private:
+  const int connection_;
+  std::string bytes_;
+};
 
 }  // namespace
 
@@ -54,6 +73,7 @@ std::string Vxi11Peer::Read(std::uint32_t size) { return Call(kDeviceRead, Pack(
 void Vxi11Peer::Serve(int connection) const {
   constexpr std::size_t kLongestLine = 256;
   Input input(connection);
+  Replies replies(connection);
   std::string line;
   bool begins = true;
   std::string_view answer;
@@ -72,30 +92,30 @@ void Vxi11Peer::Serve(int connection) const {
     bool good = true;
     switch (word(5)) {
       case kNull:
-        good = Reply(connection, xid, {});
+        good = replies.Add(xid, {});
         break;
       case kCreateLink:
-        good = Reply(connection, xid, Pack(0, 1, port(), kMostReceived));
+        good = replies.Add(xid, Pack(0, 1, port(), kMostReceived));
         break;
       case kDeviceWrite: {  // link, timeout, lock timeout, flags, data
         const std::uint32_t size = word(14);
         if (begins) line = text.substr(60, std::min<std::size_t>(size, kLongestLine));
         begins = (word(13) & kEndFlag) != 0;
         if (begins && Answers::Asks(line)) answer = answers_.To(line);
-        good = Reply(connection, xid, Pack(0, size));
+        good = replies.Add(xid, Pack(0, size));
         break;
       }
       case kDeviceRead: {  // link, size, ...
         const std::string_view part = answer.substr(0, word(11));
         answer.remove_prefix(part.size());
         const int reason = answer.empty() ? 4 : 1;
-        good = Reply(connection, xid, Pack(0, reason, part.size()), part);
+        good = replies.Add(xid, Pack(0, reason, part.size()), part);
         break;
       }
       default:
-        good = Reply(connection, xid, Pack(0));
+        good = replies.Add(xid, Pack(0));
     }
-    if (!good) return;
+    if (!good || (!input.HasMore() && !replies.Send())) return;
   }
 }
 

@@ -86,6 +86,32 @@ TEST(Vxi11Opening, ThereIsAnEndToTheLinks) {
             client.ReceiveBytes(44).substr(0, 36));
 }
 
+TEST_F(Vxi11, CallsThatComeTogetherAreAnsweredInTheirOrder) {
+  const std::string write = Call("0000000B", "00000001 000007D0 00000000 00000008 00000005 '*OPC?' 000000");
+  const std::string read = Call("0000000C", "00000001 00000400 000007D0 00000000 00000000 00000000");
+  client_.Send(write + read);
+  EXPECT_HEARD(Reply("00000000 00000005") + Reply("00000000 00000004 00000002 '1\n' 0000"), client_);
+  // More than are answered at a time.
+  std::string calls;
+  std::string replies;
+  for (int i = 0; i < 100; ++i) {
+    calls += write + read + Call("00000000", "");
+    replies += Reply("00000000 00000005") + Reply("00000000 00000004 00000002 '1\n' 0000") + Reply("");
+  }
+  client_.Send(calls);
+  EXPECT_HEARD(replies, client_);
+}
+
+TEST_F(Vxi11, AReadThatWaitsDoesNotKeepTheReplyToTheWriteBeforeIt) {
+  client_.Send(Call("0000000B", "00000001 00000000 00000000 00000000 00000004 '*OPC'") +
+               Call("0000000C", "00000001 00000400 0000EA60 00000000 00000000 00000000"));
+  EXPECT_HEARD(Reply("00000000 00000004"), client_);
+  Wire aborts(client_.abort_port());
+  aborts.Send(Abort("00000001"));
+  EXPECT_HEARD(Reply("00000000"), aborts);
+  EXPECT_HEARD(Reply("00000017 00000000 00000000"), client_);
+}
+
 TEST_F(Vxi11, TheNullProcedureAnswersNothing) {
   client_.Send(Call("00000000", ""));
   EXPECT_HEARD(Reply(""), client_);

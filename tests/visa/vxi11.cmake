@@ -6,7 +6,8 @@ if(TARGET kvtd_test_support)
   target_link_libraries(visa_vxi11_peer PUBLIC kvtd_test_support PkgConfig::TIRPC GTest::gmock)
 
   kvtd_test(visa_vxi11_test
-    SOURCES vxi11_open_test.cpp vxi11_data_test.cpp vxi11_query_test.cpp vxi11_control_test.cpp vxi11_abort_test.cpp
+    SOURCES vxi11_open_test.cpp vxi11_data_test.cpp vxi11_query_test.cpp vxi11_session_test.cpp
+            vxi11_control_test.cpp vxi11_abort_test.cpp
             vxi11_interrupt_test.cpp vxi11_hostile_test.cpp
     LIBS visa_vxi11_peer
     LABELS visa vxi11)

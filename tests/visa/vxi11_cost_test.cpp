@@ -68,6 +68,10 @@ class Vxi11Cost : public Vxi11Link {
     ASSERT_EQ(VI_SUCCESS, link_->Read({into, sizeof into, 1, {}}, deadline, count));
     ASSERT_EQ(2u, count);
   }
+  void SetUp() override {
+    sends = receives = others = allocations = 0;
+    Vxi11Link::SetUp();
+  }
 };
 
 TEST_F(Vxi11Cost, ACallIsOneSendAndOneReceiveAndNoAllocation) {
@@ -96,6 +100,40 @@ TEST_F(Vxi11Cost, ACallIsOneSendAndOneReceiveAndNoAllocation) {
   EXPECT_EQ(VI_SUCCESS, read_status);
   EXPECT_EQ(2u, count);
   EXPECT_EQ(2, sends);
+  EXPECT_EQ(2, receives);
+  EXPECT_EQ(0, others);
+  EXPECT_EQ(0, allocations);
+}
+
+TEST_F(Vxi11Cost, AQuestionAndItsReadAreOneSendAndOneReceiveWhenTheirRepliesComeTogether) {
+  const auto ask = [&](unsigned number, bool apart) {
+    const std::string written = Reply(number, "00000000 00000006");
+    const std::string read = Reply(number + 1, "00000000 00000004 00000002 '1' 0A 0000");
+    std::string question = "*OPC?\n";
+    iovec piece{question.data(), question.size()};
+    ViByte into[64];
+    std::size_t count = 0;
+    Deadline deadline(2000);
+    sends = receives = others = allocations = 0;
+    peer_.Says(kCore, apart ? written : written + read);
+    counting = true;
+    link_->ExpectRead(sizeof into, {});
+    EXPECT_EQ(VI_SUCCESS, link_->Write({&piece, 1}, true, deadline, count));
+    counting = false;
+    if (apart) peer_.Says(kCore, read);
+    counting = true;
+    EXPECT_EQ(VI_SUCCESS, link_->Read({into, sizeof into, 1, {}}, deadline, count));
+    counting = false;
+    EXPECT_EQ(2u, count);
+  };
+  ask(2, false);
+  ask(4, false);
+  EXPECT_EQ(1, sends);
+  EXPECT_EQ(1, receives);
+  EXPECT_EQ(0, others);
+  EXPECT_EQ(0, allocations);
+  ask(6, true);
+  EXPECT_EQ(1, sends);
   EXPECT_EQ(2, receives);
   EXPECT_EQ(0, others);
   EXPECT_EQ(0, allocations);
