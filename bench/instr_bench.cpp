@@ -85,16 +85,12 @@ void Vxi11Query(benchmark::State& state) {
     const Session session(ResourceOf(peer));
     bench::FloorClient own(peer.port());
     bench::FloorClient raw(responder.port());
-    const std::string write = bench::Vxi11Peer::Write(kQuestion);
-    const std::string read = bench::Vxi11Peer::Read(4096);
+    const std::string calls = bench::Vxi11Peer::Write(kQuestion) + bench::Vxi11Peer::Read(4096);
     ViReal64 value = 0.0;
     const auto work = [&] { Require(KVTD481X2C_GetFrequencyMultiplier(session.vi, &value)); };
-    const auto exchange = [&] {
-      own.Query(write);
-      own.Query(read);
-    };
     for (auto _ : state) {
-      const auto to_own = bench::Alternate(kCalls, exchange, work);
+      const auto to_own = bench::Alternate(
+          kCalls, [&] { own.Query(calls); }, work);
       ReportQuery(state, to_own,
                   bench::Alternate(
                       kCalls, [&] { raw.Query(kQuestion); }, work),

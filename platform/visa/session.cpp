@@ -105,8 +105,7 @@ ViStatus Session::Scan(const char* format, Args& args, Deadline& deadline) {
 ViStatus Session::Queryf(const char* write_format, const char* read_format, Args& args, Deadline& deadline) {
   // What an earlier answer left behind must not be taken for this one's.
   if (const ViStatus status = input_.DiscardMessage(deadline); status < 0) return status;
-  // Where the protocol has a call for either, the read goes along with the question: so it is one message, and read
-  // from.
+  // The read may go to the device along with the question when the question is one message and is read from at all.
   const bool ahead = transport().ReadsAhead() && IsOneMessage(write_format) && *read_format != '\0';
   if (ahead) transport().ExpectRead(input_.Room(), settings_.Termchar());
   output_.BeginCall(deadline);

@@ -8,6 +8,10 @@
 //   vxi11.cpp         opening, closing, giving up, attributes, and what is asked in one call
 //   vxi11_data.cpp    data in both directions
 //
+// A message and the read of its answer are two calls. With the session's word that the read will come (ExpectRead) both
+// go in one send, if the device was seen to take two. Nothing else is under way behind another call, and no call is
+// made before such a read has ended or was aborted.
+//
 // Not libtirpc's own client: its timeout counts anew with every packet, it allocates for every call, and nothing
 // interrupts it.
 #pragma once
