@@ -9,7 +9,7 @@ namespace tvr::visa::hislip {
 namespace {
 
 // Small answers come with their header in one receive; of large ones this much is copied, the rest is not.
-constexpr std::size_t kBufferSize = 32 * 1024;
+constexpr std::size_t kBufferSize = std::size_t{32} * 1024;
 // For exchanges that a session without a timeout, or one in a hurry, makes all the same.
 constexpr ViUInt32 kOwnPatience = 2000;
 constexpr ViUInt32 kOnTheWay = 50;
@@ -141,7 +141,8 @@ ViStatus HislipTransport::ClearInto(bool overlap, Deadline& deadline) {
                                         .meanwhile = &drop};
   if (const ViStatus status = async_->Ask(question, deadline, preferred); status < 0) {
     // Messages here are so small that one which stays open was shorter than it told, and will swallow all that comes.
-    return status == VI_ERROR_TMO && async_->IsAmidMessage() ? VI_ERROR_CONN_LOST : status;
+    if (status == VI_ERROR_TMO && async_->IsAmidMessage()) return VI_ERROR_CONN_LOST;
+    return status;
   }
   async_->ForgetUnanswered();
 
@@ -158,7 +159,8 @@ ViStatus HislipTransport::ClearInto(bool overlap, Deadline& deadline) {
   Header acknowledge;
   if (const ViStatus status = AwaitSynchronous(Type::kDeviceClearAcknowledge, deadline, acknowledge); status < 0) {
     // The device has ended what it was saying; so it is here.
-    return status == VI_ERROR_TMO && sync_.PayloadLeft() > 0 ? VI_ERROR_CONN_LOST : status;
+    if (status == VI_ERROR_TMO && sync_.PayloadLeft() > 0) return VI_ERROR_CONN_LOST;
+    return status;
   }
   overlap_ = (acknowledge.control & kOverlap) != 0;
   Restart();

@@ -74,6 +74,7 @@ class Transport {
   // From now on `sink` is called at each service request, from a thread of the transport; an empty one stops it. A call
   // of the sink that has begun is not waited for, here and when the transport is destroyed in that very call: a sink
   // may itself make calls on the session, which wait for the one that is going on.
+  // NOLINTNEXTLINE(performance-unnecessary-value-param): protocols that have them keep it
   virtual ViStatus DeliverServiceRequests(std::function<void()> /*sink*/, ViUInt32 /*timeout_ms*/) {
     return VI_ERROR_INV_EVENT;
   }

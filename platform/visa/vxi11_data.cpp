@@ -7,7 +7,7 @@ namespace tvr::visa::vxi11 {
 namespace {
 
 // Asked for at once. Devices keep room for what they are asked for, and a lost connection costs no more than this.
-constexpr std::size_t kMostRequested = 1024 * 1024;
+constexpr std::size_t kMostRequested = std::size_t{1024} * 1024;
 
 }  // namespace
 

@@ -67,7 +67,7 @@ class FormattedOutput {
   std::size_t used_ = 0;
   std::vector<Block> blocks_;
   std::vector<iovec> pieces_;
-  std::size_t limit_ = 256 * 1024;
+  std::size_t limit_ = std::size_t{256} * 1024;
   // Read by viGetAttribute without the session's lock.
   std::atomic<std::size_t> nominal_size_{4096};
   std::size_t used_before_ = 0;
