@@ -18,6 +18,8 @@ DOWNLOAD = ':MMEM:DATA? "Internal","/interop.bin"'
 class Session:
     """What every link can do; each link below is one test case more."""
 
+    LOCKED_OUT = constants.StatusCode.error_resource_locked
+
     def setUp(self):
         self.manager = pyvisa.ResourceManager(f"{LIBRARY}@ivi")
         self.addCleanup(self.manager.close)
@@ -81,7 +83,7 @@ class Session:
         self.device.lock_excl(timeout=1000)
         self.assertEqual(constants.AccessModes.exclusive_lock, self.device.lock_state)
         other.timeout = 200
-        self.assert_status(constants.StatusCode.error_resource_locked, other.query, "*IDN?")
+        self.assert_status(self.LOCKED_OUT, other.query, "*IDN?")
         self.assertEqual(IDENTITY, self.device.query("*IDN?"))
         self.device.unlock()
         other.timeout = 5000
@@ -161,6 +163,9 @@ class ServiceRequests:
 
 
 class OverHislip(ServiceRequests, Session, WithInstrument):
+    # The device keeps others out, and lets them wait.
+    LOCKED_OUT = constants.StatusCode.error_timeout
+
     def resource(self):
         return f"TCPIP0::127.0.0.1::hislip0,{self.instrument.ports['hislip']}::INSTR"
 
