@@ -1,0 +1,17 @@
+// What most tests include, precompiled in the presets of the sanitizers. Each test still includes what it uses: the
+// other presets precompile nothing.
+
+#ifndef KVTD_TESTS_HEADERS_H
+#define KVTD_TESTS_HEADERS_H
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <array>
+#include <future>
+#include <string>
+#include <string_view>
+#include <thread>
+#include <vector>
+
+#endif
