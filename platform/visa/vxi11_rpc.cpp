@@ -1,10 +1,20 @@
 #include "vxi11_rpc.h"
 
+#include <cstring>
+
 namespace tvr::visa::vxi11 {
 namespace {
 
 // Results are decoded by who knows their type.
 bool_t NoResults(XDR*, ...) { return TRUE; }
+
+// The peer may send any number for it, and to read an enumeration that holds none of its values is undefined.
+int AcceptStatusOf(const rpc_msg& reply) {
+  int status = 0;
+  static_assert(sizeof status == sizeof reply.acpted_rply.ar_stat);
+  std::memcpy(&status, &reply.acpted_rply.ar_stat, sizeof status);
+  return status;
+}
 
 }  // namespace
 
@@ -42,8 +52,9 @@ ViStatus RpcCaller::AwaitReply(ViUInt32 call, Deadline& deadline) {
     if (const ViStatus status = record_.Decode(xdr_replymsg, reply, deadline); status < 0) return status;
     if (reply.rm_xid == call) {
       if (reply.rm_reply.rp_stat != MSG_ACCEPTED) return VI_ERROR_IO;
-      if (reply.acpted_rply.ar_stat == SUCCESS) return VI_SUCCESS;
-      return reply.acpted_rply.ar_stat == PROC_UNAVAIL ? VI_ERROR_NSUP_OPER : VI_ERROR_IO;
+      const int status = AcceptStatusOf(reply);
+      if (status == SUCCESS) return VI_SUCCESS;
+      return status == PROC_UNAVAIL ? VI_ERROR_NSUP_OPER : VI_ERROR_IO;
     }
     if (deadline.Expired()) return VI_ERROR_TMO;
   }
