@@ -104,8 +104,6 @@ bool TakeByteOrder(const char*& format, bool& given, bool& little_endian) {
   return true;
 }
 
-bool IsNumber(Kind kind) { return kind == Kind::kInteger || kind == Kind::kReal; }
-
 bool TakeFlags(const char*& format, WriteDirective& directive) {
   for (;; ++format) {
     switch (*format) {

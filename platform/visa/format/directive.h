@@ -15,6 +15,8 @@ enum class Length : unsigned char { kNone, kH, kL, kLL, kLongDouble, kSingle, kD
 // What a code converts; kNone for a character that is no code.
 enum class Kind : unsigned char { kNone, kInteger, kReal, kText, kBlock, kCount };
 
+constexpr bool IsNumber(Kind kind) { return kind == Kind::kInteger || kind == Kind::kReal; }
+
 // How the number in a directive is given.
 enum class Given : unsigned char { kNot, kInFormat, kAsArgument };
 

@@ -86,8 +86,7 @@ bool Reader::LeavesNumberOut(const char* format) {
     }
     ReadDirective directive;
     if (!ParseReadDirective(format, directive)) return false;
-    const bool number = directive.kind == Kind::kInteger || directive.kind == Kind::kReal;
-    if (number && !directive.suppressed && directive.size.given == Given::kNot) return true;
+    if (IsNumber(directive.kind) && !directive.suppressed && directive.size.given == Given::kNot) return true;
   }
   return false;
 }
