@@ -5,11 +5,11 @@
 
 #include <visatype.h>
 
-#include <chrono>
 #include <cstddef>
 #include <string>
 
 #include "Proof.h"
+#include "Stopwatch.h"
 
 namespace kvtd::test {
 
@@ -30,14 +30,6 @@ void ExpectNoMoreMemory(const Holdings& before, const Holdings& after);
 void ExpectNoMore(const Holdings& before, const Holdings& after);
 // "+0 descriptors, heap +0.1 KiB, resident +0.0 MiB"
 std::string Growth(const Holdings& before, const Holdings& after);
-
-class Stopwatch {
- public:
-  double seconds() const { return std::chrono::duration<double>(std::chrono::steady_clock::now() - start_).count(); }
-
- private:
-  const std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
-};
 
 // A session that is closed again; none when the instrument could not be opened, and the test has failed then.
 class LoadSession {

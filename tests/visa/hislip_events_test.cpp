@@ -116,7 +116,7 @@ TEST_F(HislipEvents, TheQueueTellsWhetherMoreIsInIt) {
   const Stopwatch watch;
   EXPECT_EQ(VI_ERROR_TMO, Wait(50));
   EXPECT_GE(watch.Milliseconds(), 50);
-  EXPECT_LT(watch.Milliseconds(), 150);
+  EXPECT_LT(watch.OwnMilliseconds(), 150);
 }
 
 TEST_F(HislipEvents, AFullQueueLosesWhatComesAndSaysSoOnce) {

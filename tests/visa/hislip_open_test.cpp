@@ -44,7 +44,7 @@ TEST_F(HislipOpening, ASilentServerTakesNoMoreThanTheTimeout) {
   const Stopwatch watch;
   EXPECT_EQ(VI_ERROR_TMO, OpenWith([&] { peer_.Accept(kSync); }, 150));
   EXPECT_GE(watch.Milliseconds(), 150);
-  EXPECT_LT(watch.Milliseconds(), 250);
+  EXPECT_LT(watch.OwnMilliseconds(), 250);
 }
 
 TEST_F(HislipOpening, SilenceOnTheSecondConnectionTakesNoMoreThanTheTimeout) {
@@ -55,7 +55,7 @@ TEST_F(HislipOpening, SilenceOnTheSecondConnectionTakesNoMoreThanTheTimeout) {
                                 peer_.Says(kSync, Frame("HS 01 00 01000001 0000000000000000"));
                               },
                               150));
-  EXPECT_LT(watch.Milliseconds(), 250);
+  EXPECT_LT(watch.OwnMilliseconds(), 250);
 }
 
 TEST_F(HislipOpening, AServerOfAnotherProtocolIsToldAndNotFound) {

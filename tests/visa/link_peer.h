@@ -6,13 +6,13 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <chrono>
 #include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
 
 #include "Sockets.h"
+#include "Stopwatch.h"
 #include "transport.h"
 
 namespace tvr::visa {
@@ -60,14 +60,6 @@ class LinkTest : public ::testing::Test {
   ViStatus status_ = VI_SUCCESS;
 };
 
-class Stopwatch {
- public:
-  long Milliseconds() const {
-    return std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - begin_).count();
-  }
-
- private:
-  std::chrono::steady_clock::time_point begin_ = std::chrono::steady_clock::now();
-};
+using kvtd::test::Stopwatch;
 
 }  // namespace tvr::visa

@@ -4,10 +4,10 @@
 #include <gtest/gtest.h>
 #include <visa.h>
 
-#include <chrono>
 #include <memory>
 #include <string>
 
+#include "Stopwatch.h"
 #include "peer.h"
 
 namespace visa_test {
@@ -52,15 +52,6 @@ class SessionTest : public testing::Test {
   std::unique_ptr<Peer> peer;
 };
 
-class Stopwatch {
- public:
-  int Milliseconds() const {
-    return static_cast<int>(
-        std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - start_).count());
-  }
-
- private:
-  std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
-};
+using kvtd::test::Stopwatch;
 
 }  // namespace visa_test

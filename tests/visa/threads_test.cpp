@@ -54,7 +54,7 @@ TEST_F(Threads, AttributesCanBeReadAndSetWhileACallIsWaiting) {
     EXPECT_EQ(VI_SUCCESS, viSetAttribute(vi, VI_ATTR_USER_DATA_32, 5));
     EXPECT_EQ(VI_SUCCESS, viGetAttribute(vi, VI_ATTR_RD_BUF_SIZE, &value));
   }
-  EXPECT_LE(watch.Milliseconds(), 250) << "no attribute waits for the read";
+  EXPECT_LE(watch.OwnMilliseconds(), 250) << "no attribute waits for the read";
   waiting.join();
 }
 

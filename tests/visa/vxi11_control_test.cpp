@@ -124,7 +124,7 @@ TEST_F(Vxi11Control, ALockThatAnotherHasIsATimeoutAfterAWait) {
 TEST_F(Vxi11Control, ALockThatIsGrantedTooLateIsGivenBack) {
   const Stopwatch watch;
   EXPECT_EQ(VI_ERROR_TMO, link_->LockDevice("", 50));
-  EXPECT_LT(watch.Milliseconds(), 150);
+  EXPECT_LT(watch.OwnMilliseconds(), 150);
   peer_.Hears(kCore, Call(2, 18, "00000007 00000001 00000032"));
   peer_.Hears(kAbort, Call(1, 1, "00000007", "000607B0"));
   peer_.Hears(kCore, Call(3, 19, "00000007"));

@@ -105,7 +105,7 @@ TEST_F(Vxi11Instrument, AReadWithoutAQuestionIsATimeoutAndTheSessionGoesOn) {
   EXPECT_EQ(VI_ERROR_TMO, viRead(vi, into, sizeof into, &count));
   EXPECT_EQ(0u, count);
   EXPECT_GE(watch.Milliseconds(), 100);
-  EXPECT_LT(watch.Milliseconds(), 200);
+  EXPECT_LT(watch.OwnMilliseconds(), 200);
   ASSERT_EQ(VI_SUCCESS, viSetAttribute(vi, VI_ATTR_TMO_VALUE, 2000));
   ViReal64 power = 0.0;
   EXPECT_EQ(VI_SUCCESS, viQueryf(vi, ":POW -7;:POW?\n", "%lf", &power));
@@ -280,7 +280,7 @@ TEST_F(Vxi11Instrument, ClosingEndsAReadThatWaits) {
   EXPECT_EQ(VI_SUCCESS, viClose(vi));
   const ViStatus status = reading.get();
   EXPECT_TRUE(status == VI_ERROR_CONN_LOST || status == VI_ERROR_INV_OBJECT) << status;
-  EXPECT_LT(watch.Milliseconds(), 1000);
+  EXPECT_LT(watch.OwnMilliseconds(), 1000);
 }
 
 }  // namespace
