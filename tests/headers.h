@@ -1,5 +1,5 @@
-// What most tests include, precompiled in the presets of the sanitizers. Each test still includes what it uses: the
-// other presets precompile nothing.
+// What most tests include, precompiled. Each test still includes what it uses: the presets `clang` and `release`
+// precompile nothing.
 
 #ifndef KVTD_TESTS_HEADERS_H
 #define KVTD_TESTS_HEADERS_H
