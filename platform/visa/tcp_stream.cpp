@@ -20,6 +20,10 @@ namespace {
 // Short enough for an interruption to be felt at once, long enough for most answers to come within it.
 constexpr int kSliceMilliseconds = 4;
 
+// The kernel takes no more than this many pieces at a time.
+constexpr std::size_t kMostPieces = 64;
+constexpr std::size_t kSmall = 1024;
+
 ViStatus StatusOf(int error) {
   switch (error) {
     case ECONNRESET:
@@ -132,25 +136,35 @@ ViStatus TcpStream::Reconnect(const std::string& host, ViUInt16 port, Deadline& 
   return VI_SUCCESS;
 }
 
+ssize_t TcpStream::SendOnce(std::span<iovec> pieces, int flags) {
+  // The common cases are sent as one piece: the kernel need not fetch a description, which takes it longer than it
+  // takes us to copy a few small ones together.
+  if (pieces.size() == 1) return ::send(socket_, pieces.front().iov_base, pieces.front().iov_len, flags);
+  std::array<ViByte, kSmall> whole;
+  std::size_t size = 0;
+  for (const iovec& piece : pieces) {
+    if (piece.iov_len > whole.size() - size) return SendGathered(pieces, flags);
+    std::copy_n(static_cast<const ViByte*>(piece.iov_base), piece.iov_len, whole.data() + size);
+    size += piece.iov_len;
+  }
+  return ::send(socket_, whole.data(), size, flags);
+}
+
+ssize_t TcpStream::SendGathered(std::span<iovec> pieces, int flags) {
+  msghdr message{};
+  message.msg_iov = pieces.data();
+  message.msg_iovlen = std::min(pieces.size(), kMostPieces);
+  return ::sendmsg(socket_, &message, flags);
+}
+
 ViStatus TcpStream::Send(std::span<iovec> pieces, Deadline& deadline, std::size_t& sent) {
-  // The kernel takes no more than this many pieces at a time.
-  constexpr std::size_t kMostPieces = 64;
   sent = 0;
   bool first = true;
   while (!pieces.empty()) {
     if (!first && deadline.Expired()) return VI_ERROR_TMO;
     first = false;
     const int flags = MSG_NOSIGNAL | (deadline.ShorterThan(kSliceMilliseconds) ? MSG_DONTWAIT : 0);
-    ssize_t count = 0;
-    if (pieces.size() == 1) {
-      // The common case, and cheaper: the kernel need not fetch a description of the pieces.
-      count = ::send(socket_, pieces.front().iov_base, pieces.front().iov_len, flags);
-    } else {
-      msghdr message{};
-      message.msg_iov = pieces.data();
-      message.msg_iovlen = std::min(pieces.size(), kMostPieces);
-      count = ::sendmsg(socket_, &message, flags);
-    }
+    const ssize_t count = SendOnce(pieces, flags);
     if (count < 0) {
       if (const ViStatus status = AfterFailure(POLLOUT, deadline); status < 0) return status;
       continue;

@@ -60,6 +60,8 @@ class TcpStream {
 
  private:
   void PrepareConnection();
+  ssize_t SendOnce(std::span<iovec> pieces, int flags);
+  ssize_t SendGathered(std::span<iovec> pieces, int flags);
   ViStatus Wait(short events, Deadline& deadline);
   ViStatus AfterFailure(short events, Deadline& deadline);
 

@@ -11,7 +11,7 @@ kvtd_test(visa_hislip_test
   LABELS visa hislip)
 
 kvtd_test(visa_hislip_cost_test SOURCES hislip_cost_test.cpp LIBS visa_hislip_peer LABELS visa hislip)
-target_link_options(visa_hislip_cost_test PRIVATE -Wl,--wrap=sendmsg,--wrap=recv,--wrap=poll)
+target_link_options(visa_hislip_cost_test PRIVATE -Wl,--wrap=send,--wrap=sendmsg,--wrap=recv,--wrap=poll)
 
 kvtd_test(visa_hislip_full_test SOURCES hislip_full_test.cpp LIBS visa_hislip_peer LABELS visa hislip)
 target_link_options(visa_hislip_full_test PRIVATE -Wl,--wrap=send)

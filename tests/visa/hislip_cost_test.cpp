@@ -32,9 +32,14 @@ void Note(std::atomic<int>& counter) {
 [[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
 
 extern "C" {
+ssize_t __real_send(int, const void*, size_t, int);
 ssize_t __real_sendmsg(int, const msghdr*, int);
 ssize_t __real_recv(int, void*, size_t, int);
 int __real_poll(void*, unsigned long, int);
+ssize_t __wrap_send(int socket, const void* bytes, size_t size, int flags) {
+  Note(sends);
+  return __real_send(socket, bytes, size, flags);
+}
 ssize_t __wrap_sendmsg(int socket, const msghdr* message, int flags) {
   Note(sends);
   return __real_sendmsg(socket, message, flags);

@@ -45,6 +45,7 @@ class Reader {
   static bool LeavesNumberOut(const char* format);
   ViStatus Literal(ViByte wanted);
   ViStatus Convert(const ReadDirective& directive);
+  ViStatus Discard(char code);
   ViStatus ConvertText(const ReadDirective& directive);
   ViStatus Collect(const ReadDirective& directive, TextTarget& target);
   ViStatus ConvertNumbers(const ReadDirective& directive);
@@ -116,7 +117,20 @@ ViStatus Reader::Convert(const ReadDirective& directive) {
   }
 }
 
+// %*t and %*T: nearly every query ends with one of them.
+ViStatus Reader::Discard(char code) {
+  for (;;) {
+    const std::string_view window = in_.Window();
+    if (window.empty()) return in_.ended() ? VI_SUCCESS : in_.status();
+    const std::size_t line_feed = code == 'T' ? window.find('\n') : std::string_view::npos;
+    const bool done = line_feed != std::string_view::npos;
+    in_.TakeMany(done ? line_feed + 1 : window.size());
+    if (done || in_.ended()) return VI_SUCCESS;
+  }
+}
+
 ViStatus Reader::ConvertText(const ReadDirective& directive) {
+  if (directive.suppressed && (directive.code == 't' || directive.code == 'T')) return Discard(directive.code);
   const bool with_nul = directive.code != 'c';
   const std::size_t reserved = with_nul ? 1 : 0;
   TextTarget target;
