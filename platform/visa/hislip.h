@@ -114,6 +114,7 @@ class HislipTransport final : public InstrTransport {
   bool spoilt_ = false;          // too much was held: the rest of that answer is dropped
   bool unproven_given_ = false;  // an earlier read handed over bytes for which the proof is still to come
   bool read_open_ = false;       // the last read did not see the end of an answer
+  bool gave_up_ = false;         // the last read failed
   bool late_possible_ = false;   // and then a message was sent all the same
 
   std::vector<iovec> pieces_;

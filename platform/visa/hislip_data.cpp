@@ -25,6 +25,7 @@ ViStatus HislipTransport::Read(const ReadRequest& request, Deadline& deadline, s
   const ViStatus status = Settle(Gather(gathering, deadline));
   if (gathering.unproven > 0) unproven_given_ = true;
   read_open_ = status != VI_SUCCESS;
+  gave_up_ = status < 0;
   return status;
 }
 
@@ -198,7 +199,8 @@ void HislipTransport::ForgetAnswer() {
 }
 
 ViStatus HislipTransport::PrepareToSend(Deadline& deadline) {
-  if (unfinished_) [[unlikely]] {
+  // In overlap mode no id tells a late answer from the next one: the device must forget it.
+  if (unfinished_ || (overlap_ && gave_up_)) [[unlikely]] {
     if (const ViStatus status = ClearInto(overlap_, deadline); status < 0) return status;
   }
   if (overlap_) return VI_SUCCESS;
@@ -268,7 +270,7 @@ void HislipTransport::Restart() {
   next_id_ = kFirstId;
   async_->SetLastId(LastId());
   delivered_id_ = kFirstId - kIdStep;
-  rmt_delivered_ = unfinished_ = read_open_ = late_possible_ = false;
+  rmt_delivered_ = unfinished_ = read_open_ = gave_up_ = late_possible_ = false;
   interruptions_ = async_->Interruptions();
 }
 

@@ -158,5 +158,33 @@ TEST_F(HislipOverlap, AStatusQueryTellsTheLastMessageDelivered) {
   peer_.Hears(kAsync, Frame("HS 15 01 FFFFFF06 0000000000000000"));
 }
 
+TEST_F(HislipOverlap, AnAnswerThatIsLateMayStillBeReadBeforeAnotherMessage) {
+  Write("A?");
+  EXPECT_EQ("", Read(20));
+  EXPECT_EQ(VI_ERROR_TMO, status_);
+  peer_.Says(kSync, Frame("HS 07 00 FFFFFF00 0000000000000001", "a"));
+  EXPECT_EQ("a", Read());
+  peer_.Next(kSync, 18);
+  Write("B?");
+  peer_.Hears(kSync, Frame("HS 07 01 FFFFFF02 0000000000000002", "B?"));
+}
+
+// The device counts its own messages: no number says what is an answer to what.
+TEST_F(HislipOverlap, AMessageBehindAReadThatFailedHasTheDeviceForgetTheLateAnswer) {
+  Write("A?");
+  peer_.Next(kSync, 18);
+  EXPECT_EQ("", Read(20));
+  EXPECT_EQ(VI_ERROR_TMO, status_);
+  peer_.Says(kAsync, Frame("HS 17 01 00000000 0000000000000000"));
+  peer_.Says(kSync, Frame("HS 07 00 FFFFFF00 0000000000000001", "a"));
+  peer_.Says(kSync, Frame("HS 09 01 00000000 0000000000000000"));
+  EXPECT_EQ(VI_SUCCESS, Write("B?"));
+  peer_.Hears(kAsync, Frame("HS 13 00 00000000 0000000000000000"));
+  peer_.Hears(kSync, Frame("HS 08 01 00000000 0000000000000000"));
+  peer_.Hears(kSync, Frame("HS 07 00 FFFFFF00 0000000000000002", "B?"));
+  peer_.Says(kSync, Frame("HS 07 00 FFFFFF00 0000000000000001", "b"));
+  EXPECT_EQ("b", Read());
+}
+
 }  // namespace
 }  // namespace tvr::visa::hislip
