@@ -30,7 +30,7 @@ set(KVTD_TEST_GRAIN case CACHE STRING "What is one CTest: a case or a program")
 set_property(CACHE KVTD_TEST_GRAIN PROPERTY STRINGS case program)
 
 # kvtd_test(name SOURCES a.cpp ... LIBS x y ... [LABELS l ...] [TIMEOUT s]): one GoogleTest executable, each of its tests a
-# CTest.
+# CTest. What may take longer begins earlier.
 function(kvtd_test name)
   cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LIBS;LABELS" ${ARGN})
   find_package(GTest REQUIRED)
@@ -45,7 +45,7 @@ function(kvtd_test name)
       set(ARG_TIMEOUT 600)
     endif()
     add_test(NAME ${name} COMMAND ${name} --gtest_brief=1)
-    set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT} LABELS "${ARG_LABELS}")
+    set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT} COST ${ARG_TIMEOUT} LABELS "${ARG_LABELS}")
   else()
     include(GoogleTest)
     if(NOT ARG_TIMEOUT)
@@ -53,7 +53,8 @@ function(kvtd_test name)
     endif()
     # The list of labels is split once more on its way into the test's properties.
     list(JOIN ARG_LABELS "\\\\\\\\\\\\\\;" labels)
-    gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT ${ARG_TIMEOUT} LABELS "${labels}")
+    gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT ${ARG_TIMEOUT} COST ${ARG_TIMEOUT}
+                         LABELS "${labels}")
   endif()
 endfunction()
 
