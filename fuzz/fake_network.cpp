@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <memory>
 #include <utility>
 
 #include "Require.h"
@@ -26,7 +27,6 @@ constexpr milliseconds kForever = milliseconds::max();
 
 struct Connection {
   Peer* peer = nullptr;
-  bool open = false;
   bool finished = false;  // half-closed, closed or reset by the peer
   bool closed = false;
   bool reset = false;
@@ -38,7 +38,8 @@ struct Connection {
 
 struct State {
   std::vector<Peer*> peers;
-  std::vector<Connection> connections;
+  // By descriptor; null behind one that is closed. Two descriptors may be of one connection.
+  std::vector<std::shared_ptr<Connection>> connections;
   std::chrono::steady_clock::time_point now{std::chrono::hours(1)};
   Disturbance disturbance;
   bool disturbed = false;
@@ -50,7 +51,7 @@ State& The() {
 
 Connection* Find(int descriptor) {
   const auto place = static_cast<std::size_t>(descriptor - kFirstDescriptor);
-  return descriptor >= kFirstDescriptor && place < The().connections.size() ? &The().connections[place] : nullptr;
+  return descriptor >= kFirstDescriptor && place < The().connections.size() ? The().connections[place].get() : nullptr;
 }
 
 bool Ended(const Connection& connection) {
@@ -207,7 +208,7 @@ FakeNetwork::~FakeNetwork() { The() = State{}; }
 
 int FakeNetwork::OpenConnections() {
   const auto& all = The().connections;
-  return static_cast<int>(std::count_if(all.begin(), all.end(), [](const Connection& each) { return each.open; }));
+  return static_cast<int>(std::count_if(all.begin(), all.end(), [](const auto& each) { return each != nullptr; }));
 }
 void FakeNetwork::Disturb(const Disturbance& disturbance) {
   The().disturbance = disturbance;
@@ -217,7 +218,9 @@ bool FakeNetwork::Disturbed() { return The().disturbed; }
 std::chrono::steady_clock::time_point FakeNetwork::Now() { return The().now; }
 void FakeNetwork::Pass(milliseconds time) {
   The().now += time;
-  for (Connection& each : The().connections) each.wait = std::max(milliseconds(0), each.wait - time);
+  for (const auto& each : The().connections) {
+    if (each != nullptr) each->wait = std::max(milliseconds(0), each->wait - time);
+  }
 }
 
 }  // namespace kvtd::fuzz
@@ -243,7 +246,7 @@ int __wrap_socket(int, int, int) {
     return static_cast<int>(kvtd::fuzz::Fail(disturbance->error));
   }
   auto& connections = The().connections;
-  connections.emplace_back().open = true;
+  connections.push_back(std::make_shared<kvtd::fuzz::Connection>());
   return kFirstDescriptor + static_cast<int>(connections.size()) - 1;
 }
 
@@ -299,12 +302,20 @@ int __wrap_shutdown(int descriptor, int) {
 }
 
 int __wrap_close(int descriptor) {
-  auto* const connection = Find(descriptor);
-  if (connection == nullptr) return __real_close(descriptor);
-  kvtd::fuzz::Require(connection->open, "a connection is closed once");
-  connection->open = false;
-  connection->hung_up = true;
+  const auto place = static_cast<std::size_t>(descriptor - kFirstDescriptor);
+  if (descriptor < kFirstDescriptor || place >= The().connections.size()) return __real_close(descriptor);
+  kvtd::fuzz::Require(The().connections[place] != nullptr, "a connection is closed once");
+  The().connections[place] = nullptr;
   return 0;
+}
+
+// What `into` was before is closed by it.
+int __wrap_dup3(int from, int into, int) {
+  if (Find(from) == nullptr || Find(into) == nullptr) return static_cast<int>(kvtd::fuzz::Fail(EBADF));
+  auto& connections = The().connections;
+  connections[static_cast<std::size_t>(into - kFirstDescriptor)] =
+      connections[static_cast<std::size_t>(from - kFirstDescriptor)];
+  return into;
 }
 
 int __wrap_setsockopt(int, int, int, const void*, socklen_t) { return 0; }
