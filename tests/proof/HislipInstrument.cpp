@@ -1,4 +1,4 @@
-// The device's side of HiSLIP 1.0, in synchronised mode.
+// The device's side of HiSLIP 1.0, in the mode that the client wants.
 
 #include <cstdint>
 
@@ -46,7 +46,7 @@ class HislipInstrument final : public FakeInstrument {
         return say(HislipType::kAsyncDeviceClearAcknowledge);
       case HislipType::kDeviceClearComplete:
         clearing_ = false;
-        return say(HislipType::kDeviceClearAcknowledge);
+        return mouth.Say(HislipMessage{HislipType::kDeviceClearAcknowledge, message.control, 0, ""}.Bytes());
       case HislipType::kData:
       case HislipType::kDataEnd:
         if (!clearing_) TakeData(message, mouth);
