@@ -11,8 +11,8 @@ namespace bench {
 
 class FilePeer {
  public:
-  explicit FilePeer(std::size_t file_size)
-      : answers_(file_size), listener_([this](int connection) { Serve(connection); }) {}
+  explicit FilePeer(int core = -1, std::size_t file_size = 0)
+      : answers_(file_size), listener_([this](int connection) { Serve(connection); }, core) {}
 
   std::uint16_t port() const { return listener_.port(); }
   std::string resource() const { return "TCPIP0::127.0.0.1::" + std::to_string(port()) + "::SOCKET"; }

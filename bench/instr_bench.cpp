@@ -13,6 +13,7 @@
 #include "FilePeer.h"
 #include "FloorClient.h"
 #include "HislipPeer.h"
+#include "Placement.h"
 #include "Responder.h"
 #include "Rounds.h"
 #include "Vxi11Peer.h"
@@ -44,74 +45,54 @@ struct Session {
   ViSession vi = VI_NULL;
 };
 
-void ReportQuery(benchmark::State& state, const bench::Comparison& own, const bench::Comparison& raw, double target,
-                 bool judged_by_raw) {
-  state.counters["driver_us"] = own.work;
-  state.counters["ratio_own"] = own.work / own.floor;
-  state.counters["ratio_raw"] = raw.work / raw.floor;
-  state.counters[judged_by_raw ? "target_raw" : "target_own"] = target;
+void Compare(benchmark::State& state, ViSession vi, bench::FloorClient& own, const std::string& own_bytes,
+             bench::FloorClient& raw) {
+  ViReal64 value = 0.0;
+  const auto work = [&] { Require(KVTD481X2C_GetFrequencyMultiplier(vi, &value)); };
+  const auto to_own = bench::Alternate(
+      kCalls, [&] { own.Query(own_bytes); }, work);
+  const auto to_raw = bench::Alternate(
+      kCalls, [&] { raw.Query(kQuestion); }, work);
+  state.counters["driver_us"] = to_own.work;
+  state.counters["ratio_own"] = to_own.work / to_own.floor;
+  state.counters["ratio_raw"] = to_raw.work / to_raw.floor;
 }
 
 void HislipQuery(benchmark::State& state) {
-  const int core = state.range(0) == 1 ? 0 : 1;
-  bench::HislipPeer peer(core);
-  bench::Responder responder(core);
-  bench::PinTo(0);
-  {
-    const Session session(ResourceOf(peer));
-    bench::FloorClient own(peer.port());
-    bench::FloorClient raw(responder.port());
-    const std::string frame = bench::HislipPeer::Frame(0xFFFFFF00, kQuestion);
-    ViReal64 value = 0.0;
-    const auto work = [&] { Require(KVTD481X2C_GetFrequencyMultiplier(session.vi, &value)); };
-    for (auto _ : state) {
-      const auto to_own = bench::Alternate(
-          kCalls, [&] { own.Query(frame); }, work);
-      ReportQuery(state, to_own,
-                  bench::Alternate(
-                      kCalls, [&] { raw.Query(kQuestion); }, work),
-                  1.10, false);
-    }
-  }
-  bench::PinTo(-1);
+  const bench::Placement placement(state);
+  bench::HislipPeer peer(placement.peer_core());
+  bench::Responder responder(placement.peer_core());
+  const Session session(ResourceOf(peer));
+  bench::FloorClient own(peer.port());
+  bench::FloorClient raw(responder.port());
+  for (auto _ : state) Compare(state, session.vi, own, bench::HislipPeer::Frame(0xFFFFFF00, kQuestion), raw);
+  state.counters["ratio_own_at_most"] = 1.10;
 }
 
 void Vxi11Query(benchmark::State& state) {
-  const int core = state.range(0) == 1 ? 0 : 1;
-  bench::Vxi11Peer peer(core);
-  bench::Responder responder(core);
-  bench::PinTo(0);
-  {
-    const Session session(ResourceOf(peer));
-    bench::FloorClient own(peer.port());
-    bench::FloorClient raw(responder.port());
-    const std::string calls = bench::Vxi11Peer::Write(kQuestion) + bench::Vxi11Peer::Read(4096);
-    ViReal64 value = 0.0;
-    const auto work = [&] { Require(KVTD481X2C_GetFrequencyMultiplier(session.vi, &value)); };
-    for (auto _ : state) {
-      const auto to_own = bench::Alternate(
-          kCalls, [&] { own.Query(calls); }, work);
-      ReportQuery(state, to_own,
-                  bench::Alternate(
-                      kCalls, [&] { raw.Query(kQuestion); }, work),
-                  1.5, true);
-    }
-  }
-  bench::PinTo(-1);
+  const bench::Placement placement(state);
+  bench::Vxi11Peer peer(placement.peer_core());
+  bench::Responder responder(placement.peer_core());
+  const Session session(ResourceOf(peer));
+  bench::FloorClient own(peer.port());
+  bench::FloorClient raw(responder.port());
+  const std::string calls = bench::Vxi11Peer::Write(kQuestion) + bench::Vxi11Peer::Read(4096);
+  for (auto _ : state) Compare(state, session.vi, own, calls, raw);
+  state.counters["ratio_raw_at_most"] = 1.5;
 }
 
 // `speed` is the raw socket's time over the link's: 1 is as fast.
 void ReportSpeed(benchmark::State& state, const bench::Comparison& result) {
   state.counters["raw_us"] = result.floor;
   state.counters["driver_us"] = result.work;
-  state.counters["speed"] = result.floor / result.work;
-  state.counters["target_speed"] = 0.6;
+  bench::Judge(state, "speed", result.floor / result.work, "at_least", 0.6);
 }
 
 template <class Peer>
 void SendFile(benchmark::State& state) {
-  Peer peer;
-  bench::FilePeer raw_peer(0);
+  const bench::Placement placement(state);
+  Peer peer(placement.peer_core());
+  bench::FilePeer raw_peer(placement.peer_core());
   bench::FloorClient raw(raw_peer.port());
   const Session session(ResourceOf(peer));
   std::vector<ViByte> data(kFileSize);
@@ -132,8 +113,9 @@ void SendFile(benchmark::State& state) {
 
 template <class Peer>
 void ReadFile(benchmark::State& state) {
-  Peer peer(-1, kFileSize);
-  bench::FilePeer raw_peer(kFileSize);
+  const bench::Placement placement(state);
+  Peer peer(placement.peer_core(), kFileSize);
+  bench::FilePeer raw_peer(placement.peer_core(), kFileSize);
   bench::FloorClient raw(raw_peer.port());
   const Session session(ResourceOf(peer));
   std::vector<ViByte> data(kFileSize + 16);
@@ -154,12 +136,11 @@ void ReadFile(benchmark::State& state) {
 
 }  // namespace
 
-#define PLACED(work) BENCHMARK(work)->ArgName("cores")->Arg(1)->Arg(2)->Iterations(1)->Unit(benchmark::kMillisecond)
-PLACED(HislipQuery);
-PLACED(Vxi11Query);
-BENCHMARK(SendFile<bench::HislipPeer>)->Iterations(1)->Unit(benchmark::kMillisecond);
-BENCHMARK(ReadFile<bench::HislipPeer>)->Iterations(1)->Unit(benchmark::kMillisecond);
-BENCHMARK(SendFile<bench::Vxi11Peer>)->Iterations(1)->Unit(benchmark::kMillisecond);
-BENCHMARK(ReadFile<bench::Vxi11Peer>)->Iterations(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(HislipQuery)->Apply(bench::Placed);
+BENCHMARK(Vxi11Query)->Apply(bench::Placed);
+BENCHMARK(SendFile<bench::HislipPeer>)->Apply(bench::Placed);
+BENCHMARK(ReadFile<bench::HislipPeer>)->Apply(bench::Placed);
+BENCHMARK(SendFile<bench::Vxi11Peer>)->Apply(bench::Placed);
+BENCHMARK(ReadFile<bench::Vxi11Peer>)->Apply(bench::Placed);
 
 BENCHMARK_MAIN();

@@ -3,7 +3,6 @@
 
 #include <KVTD481X2C.h>
 #include <benchmark/benchmark.h>
-#include <sys/resource.h>
 
 #include <charconv>
 #include <cstdio>
@@ -14,6 +13,8 @@
 
 #include "FilePeer.h"
 #include "FloorClient.h"
+#include "PeakMemory.h"
+#include "Placement.h"
 #include "Rounds.h"
 
 namespace {
@@ -26,12 +27,14 @@ void Require(bool good) {
 }
 
 struct Bench {
-  explicit Bench(std::size_t file_size) : peer(file_size), floor(peer.port()) {
+  explicit Bench(const benchmark::State& state, std::size_t file_size = 0)
+      : placement(state), peer(placement.peer_core(), file_size), floor(peer.port()) {
     Require(KVTD481X2C_InitWithOptions(const_cast<ViChar*>(peer.resource().c_str()), VI_FALSE, VI_FALSE, "", &vi) >= 0);
     Require(KVTD481X2C_SetIOTimeout(vi, 20000) >= 0);
   }
   ~Bench() { KVTD481X2C_close(vi); }
 
+  const bench::Placement placement;
   bench::FilePeer peer;
   bench::FloorClient floor;
   ViSession vi = VI_NULL;
@@ -39,7 +42,7 @@ struct Bench {
 
 // The time of the write alone; the query behind it, which is not measured, waits until the peer has taken it all.
 void List(benchmark::State& state) {
-  Bench b(0);
+  Bench b(state);
   std::mt19937_64 random(1);
   std::uniform_real_distribution<double> frequency(9e3, 20e9);
   std::vector<ViReal64> points(kPoints);
@@ -61,21 +64,22 @@ void List(benchmark::State& state) {
           bench::Time([&] { Require(KVTD481X2C_SetListFrequencies(b.vi, 1, kPoints, points.data()) >= 0); }));
       Require(KVTD481X2C_WaitForOperationComplete(b.vi) >= 0);
     }
-    state.counters["floor_us"] = bench::Median(floors);
-    state.counters["driver_us"] = bench::Median(works);
-    state.counters["ratio"] = bench::Median(works) / bench::Median(floors);
-    state.counters["target"] = 4.2;
+    bench::ReportRatio(state, bench::Median(floors), bench::Median(works), 4.2);
   }
 }
 
-long PeakKibibytes() {
-  rusage usage{};
-  getrusage(RUSAGE_SELF, &usage);
-  return usage.ru_maxrss;
+// The first time of each: what the driver keeps from then on counts too. The caller's memory is there before.
+template <class Floor, class Work>
+void CompareTransfers(benchmark::State& state, const Floor& floor, const Work& work) {
+  floor();
+  const bench::PeakMemory memory;
+  work();
+  bench::Judge(state, "memory_KiB", memory.MoreKibibytes(), "under", 1024);
+  for (auto _ : state) bench::Report(state, bench::Alternate(1, floor, work), 1.11);
 }
 
 void SendFile(benchmark::State& state) {
-  Bench b(0);
+  Bench b(state);
   std::vector<ViByte> data(kFileSize);
   std::mt19937_64 random(2);
   for (ViByte& byte : data) byte = static_cast<ViByte>(random());
@@ -89,16 +93,12 @@ void SendFile(benchmark::State& state) {
     Require(KVTD481X2C_SendFile(b.vi, "Internal", "f", static_cast<ViInt32>(kFileSize), data.data()) >= 0);
     Require(KVTD481X2C_WaitForOperationComplete(b.vi) >= 0);
   };
-  floor();
-  const long before = PeakKibibytes();
-  work();
-  state.counters["memory_KiB"] = static_cast<double>(PeakKibibytes() - before);
-  for (auto _ : state) bench::Report(state, bench::Alternate(1, floor, work), 1.11);
+  CompareTransfers(state, floor, work);
 }
 
 void ReadFile(benchmark::State& state) {
-  Bench b(kFileSize);
-  std::vector<ViByte> data(kFileSize);
+  Bench b(state, kFileSize);
+  std::vector<ViByte> data(kFileSize + 16);
   ViInt32 size = 0;
   const auto floor = [&] {
     b.floor.Send(":MMEM:DATA? \"Internal\",\"f\"\n");
@@ -111,18 +111,13 @@ void ReadFile(benchmark::State& state) {
     ViInt64 read = 0;
     Require(KVTD481X2C_viRead(b.vi, 1, end, &read) >= 0 && read == 1);
   };
-  data.resize(kFileSize + 16);
-  floor();
-  const long before = PeakKibibytes();
-  work();
-  state.counters["memory_KiB"] = static_cast<double>(PeakKibibytes() - before);
-  for (auto _ : state) bench::Report(state, bench::Alternate(1, floor, work), 1.11);
+  CompareTransfers(state, floor, work);
 }
 
 }  // namespace
 
-BENCHMARK(List)->Iterations(1)->Unit(benchmark::kMillisecond);
-BENCHMARK(SendFile)->Iterations(1)->Unit(benchmark::kMillisecond);
-BENCHMARK(ReadFile)->Iterations(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(List)->Apply(bench::Placed);
+BENCHMARK(SendFile)->Apply(bench::Placed);
+BENCHMARK(ReadFile)->Apply(bench::Placed);
 
 BENCHMARK_MAIN();

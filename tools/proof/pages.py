@@ -12,42 +12,10 @@ import subprocess
 import sys
 import xml.etree.ElementTree as xml
 
+import speed
+
 HERE = pathlib.Path(__file__).parent
 NOT_RUN = "no result"
-
-# Benchmark, its counter, what it measures, the counter of its target.
-RATIOS = [
-    ("Query/cores:1", "ratio", "query through an attribute", "target"),
-    ("Query/cores:2", "ratio", "the same on two cores", "target"),
-    ("QueryWithStatus/cores:1", "ratio", "query with status check", "target"),
-    ("QueryWithStatus/cores:2", "ratio", "the same on two cores", "target"),
-    ("Pause/cores:1", "ratio", "two queries of plain sockets, with 250 ns of computing behind each", None),
-    ("Pause/cores:1", "ratio_of_sum", "what 250 ns twice would add by themselves", None),
-    ("SetWithStatus/cores:1", "ratio", "set with status check", "target"),
-    ("SetWithStatus/cores:2", "ratio", "the same on two cores", "target"),
-    ("Set/cores:1", "ratio", "set without", "target"),
-    ("TwoThreads", "ratio", "two threads on two sessions, to the time of one", "target"),
-    ("List", "ratio", "list of 4000 points in one line", "target"),
-    ("SendFile", "ratio", "file of 64 MiB to the instrument", "target"),
-    ("ReadFile", "ratio", "file of 64 MiB from the instrument", "target"),
-    ("OpenClose/cores:1", "ratio", "open and close", "target"),
-    ("OpenClose/cores:2", "ratio", "the same on two cores", "target"),
-    ("HislipQuery/cores:1", "ratio_own", "HiSLIP query, to its own bytes", "target_own"),
-    ("Vxi11Query/cores:1", "ratio_own", "VXI-11 query, to its own bytes", None),
-    ("Vxi11Query/cores:1", "ratio_raw", "VXI-11 query, to a raw socket's", "target_raw"),
-]
-# Of these more is better: a raw socket's time over the link's.
-SPEEDS = [
-    ("SendFile<bench::HislipPeer>", "file of 64 MiB over HiSLIP, to the instrument"),
-    ("ReadFile<bench::HislipPeer>", "the same, from the instrument"),
-    ("SendFile<bench::Vxi11Peer>", "file of 64 MiB over VXI-11, to the instrument"),
-    ("ReadFile<bench::Vxi11Peer>", "the same, from the instrument"),
-]
-NANOSECONDS = [
-    ("GetOneAttribute", "simulated get", 50),
-    ("SetOneAttribute", "simulated set", 50),
-    ("GetMixedAttributes", "simulated get of mixed attributes", 85),
-]
 
 
 def suite(results, name):
@@ -107,47 +75,6 @@ def coverage(results):
     return f"{found['line_percent']:.1f} % of lines, {found['branch_percent']:.1f} % of branches"
 
 
-def benchmarks(results):
-    found = {}
-    for path in sorted(results.glob("*_bench.json")):
-        for row in json.loads(path.read_text(encoding="utf-8"))["benchmarks"]:
-            if row.get("error_occurred"):
-                print(f"pages.py: {row['name']} has no figures: {row.get('error_message')}", file=sys.stderr)
-            else:
-                found[row["name"].replace("/iterations:1", "")] = row
-    return found
-
-
-def verdict(met):
-    return "met" if met else "**missed**"
-
-
-def speed(results):
-    found = benchmarks(results)
-    if not found:
-        return NOT_RUN
-    table = ["| Work | Measured | Target | |", "|---|---|---|---|"]
-    for name, counter, work, target in RATIOS:
-        if name not in found:
-            continue
-        row = found[name]
-        if target is None:
-            table.append(f"| {work} | {row[counter]:.2f} | | |")
-        else:
-            table.append(f"| {work} | {row[counter]:.2f} | at most {row[target]:.2f} | "
-                         f"{verdict(round(row[counter], 2) <= row[target])} |")
-    for name, work in SPEEDS:
-        if name in found:
-            row = found[name]
-            table.append(f"| {work} | {row['speed']:.2f} of a raw socket's speed | at least {row['target_speed']:.2f} | "
-                         f"{verdict(row['speed'] >= row['target_speed'])} |")
-    for name, work, most in NANOSECONDS:
-        if name in found:
-            time = found[name]["real_time"]
-            table.append(f"| {work} | {time:.0f} ns | at most {most} ns | {verdict(time <= most)} |")
-    return "\n".join(table)
-
-
 def machine():
     model = "an unknown processor"
     for entry in pathlib.Path("/proc/cpuinfo").read_text(encoding="utf-8").splitlines():
@@ -160,7 +87,7 @@ def machine():
 
 def main():
     results, docs = map(pathlib.Path, sys.argv[1:])
-    facts = {"machine": machine(), "coverage": coverage(results), "speed": speed(results),
+    facts = {"machine": machine(), "coverage": coverage(results), "speed": speed.table(results) or NOT_RUN,
              "peers": lines(results, "peers"), "static": line(results, "static"), "release": suite(results, "release"),
              "tests": suite(results, "dev"), "asan": suite(results, "asan"), "tsan": suite(results, "tsan"),
              "calls": without_faults(lines(results, "calls")), "faults": faults(results), "late": lines(results, "late"), "fuzz": lines(results, "fuzz")}
