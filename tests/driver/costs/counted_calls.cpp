@@ -1,6 +1,7 @@
 #include "counted_calls.h"
 
 #include <dlfcn.h>
+#include <malloc.h>
 #include <poll.h>
 #include <sys/epoll.h>
 #include <sys/select.h>
@@ -8,12 +9,15 @@
 #include <sys/uio.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <new>
 
 namespace {
 
 thread_local Counts g_counts;
+thread_local std::ptrdiff_t g_held = 0;
+thread_local std::ptrdiff_t g_most_held = 0;
 
 template <class Function>
 Function* Real(const char* name) {
@@ -23,6 +27,12 @@ Function* Real(const char* name) {
 }  // namespace
 
 Counts CountedCalls() { return g_counts; }
+
+std::size_t MostHeldDuring(const std::function<void()>& work) {
+  const std::ptrdiff_t before = g_most_held = g_held;
+  work();
+  return static_cast<std::size_t>(g_most_held - before);
+}
 
 #define COUNTED(result, name, field, parameters, arguments)   \
   extern "C" result name parameters {                         \
@@ -50,12 +60,18 @@ COUNTED(int, setsockopt, others, (int s, int l, int o, const void* v, socklen_t 
 COUNTED(int, getsockopt, others, (int s, int l, int o, void* v, socklen_t* n), (s, l, o, v, n))
 
 void* operator new(std::size_t size) {
+  void* const memory = std::malloc(size == 0 ? 1 : size);
+  if (memory == nullptr) throw std::bad_alloc();
   ++g_counts.allocations;
-  if (void* memory = std::malloc(size == 0 ? 1 : size)) return memory;
-  throw std::bad_alloc();
+  g_held += static_cast<std::ptrdiff_t>(::malloc_usable_size(memory));
+  g_most_held = std::max(g_most_held, g_held);
+  return memory;
 }
 void* operator new[](std::size_t size) { return operator new(size); }
-void operator delete(void* memory) noexcept { std::free(memory); }
-void operator delete[](void* memory) noexcept { std::free(memory); }
-void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
-void operator delete[](void* memory, std::size_t) noexcept { std::free(memory); }
+void operator delete(void* memory) noexcept {
+  if (memory != nullptr) g_held -= static_cast<std::ptrdiff_t>(::malloc_usable_size(memory));
+  std::free(memory);
+}
+void operator delete[](void* memory) noexcept { operator delete(memory); }
+void operator delete(void* memory, std::size_t) noexcept { operator delete(memory); }
+void operator delete[](void* memory, std::size_t) noexcept { operator delete(memory); }
