@@ -29,10 +29,11 @@ endfunction()
 set(KVTD_TEST_GRAIN case CACHE STRING "What is one CTest: a case or a program")
 set_property(CACHE KVTD_TEST_GRAIN PROPERTY STRINGS case program)
 
-# kvtd_test(name SOURCES a.cpp ... LIBS x y ... [LABELS l ...] [TIMEOUT s]): one GoogleTest executable, each of its tests a
-# CTest. What may take longer begins earlier.
+# kvtd_test(name SOURCES a.cpp ... LIBS x y ... [LABELS l ...] [TIMEOUT s] [BY_LINK]): one GoogleTest executable, each of
+# its tests a CTest. BY_LINK: tests whose names end in "/hislip" or "/vxi11" bear that link's label too. What may take
+# longer begins earlier.
 function(kvtd_test name)
-  cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LIBS;LABELS" ${ARGN})
+  cmake_parse_arguments(ARG "BY_LINK" "TIMEOUT" "SOURCES;LIBS;LABELS" ${ARGN})
   find_package(GTest REQUIRED)
   add_executable(${name} ${ARG_SOURCES})
   kvtd_defaults(${name})
@@ -44,6 +45,9 @@ function(kvtd_test name)
     if(NOT ARG_TIMEOUT)
       set(ARG_TIMEOUT 600)
     endif()
+    if(ARG_BY_LINK)
+      list(APPEND ARG_LABELS hislip vxi11)
+    endif()
     add_test(NAME ${name} COMMAND ${name} --gtest_brief=1)
     set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT} COST ${ARG_TIMEOUT} LABELS "${ARG_LABELS}")
   else()
@@ -51,11 +55,22 @@ function(kvtd_test name)
     if(NOT ARG_TIMEOUT)
       set(ARG_TIMEOUT 120)
     endif()
-    # The list of labels is split once more on its way into the test's properties.
-    list(JOIN ARG_LABELS "\\\\\\\\\\\\\\;" labels)
-    gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT ${ARG_TIMEOUT} COST ${ARG_TIMEOUT}
-                         LABELS "${labels}")
+    if(ARG_BY_LINK)
+      kvtd_discover_tests(${name} ${ARG_TIMEOUT} "-*/hislip:*/vxi11" ${ARG_LABELS})
+      kvtd_discover_tests(${name} ${ARG_TIMEOUT} "*/hislip" ${ARG_LABELS} hislip)
+      kvtd_discover_tests(${name} ${ARG_TIMEOUT} "*/vxi11" ${ARG_LABELS} vxi11)
+    else()
+      kvtd_discover_tests(${name} ${ARG_TIMEOUT} "*" ${ARG_LABELS})
+    endif()
   endif()
+endfunction()
+
+# kvtd_discover_tests(name timeout filter labels...)
+function(kvtd_discover_tests name timeout filter)
+  # The list of labels is split once more on its way into the test's properties.
+  list(JOIN ARGN "\\\\\\\\\\\\\\;" labels)
+  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST TEST_FILTER "${filter}"
+                       PROPERTIES TIMEOUT ${timeout} COST ${timeout} LABELS "${labels}")
 endfunction()
 
 # kvtd_header_lists(target): for a target that goes through the public header, every function of it as EXPORT(name) in
