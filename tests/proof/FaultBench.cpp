@@ -18,17 +18,6 @@ namespace {
 
 constexpr ViStatus kVisaInvalidObject = Status(0xBFFF000EU);
 
-const char* NameOf(LinkKind kind) {
-  switch (kind) {
-    case LinkKind::Hislip:
-      return "HiSLIP";
-    case LinkKind::Vxi11:
-      return "VXI-11";
-    default:
-      return "socket";
-  }
-}
-
 // Of these one or the other suits each call that can be answered in one line.
 constexpr const char* kAnswers[] = {
     "1\n",  "2.5\n", "#14abcd\n", "0,\"No error\"\n", "2026,11,21\n", "FIX\n", "INT\n", "SIN\n", "LIN\n",  "NORM\n",
@@ -189,16 +178,5 @@ void Faults::SetUp() {
   descriptors_ = OpenDescriptors();
 }
 void Faults::TearDown() { EXPECT_EQ(descriptors_, OpenDescriptors()); }
-
-std::string LinkName(const testing::TestParamInfo<LinkKind>& info) {
-  switch (info.param) {
-    case LinkKind::Hislip:
-      return "Hislip";
-    case LinkKind::Vxi11:
-      return "Vxi11";
-    default:
-      return "Socket";
-  }
-}
 
 }  // namespace kvtd::test

@@ -19,6 +19,7 @@
 #include "Calls.h"
 #include "DriverDialogue.h"
 #include "FakeInstrument.h"
+#include "LinkNames.h"
 
 namespace kvtd::test {
 
@@ -127,7 +128,6 @@ class Faults : public testing::TestWithParam<LinkKind> {
  private:
   std::size_t descriptors_ = 0;
 };
-std::string LinkName(const testing::TestParamInfo<LinkKind>& info);
 
 }  // namespace kvtd::test
 

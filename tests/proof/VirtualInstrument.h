@@ -1,4 +1,4 @@
-// A virtual instrument in a thread of this process, on a raw socket.
+// A virtual instrument in a thread of this process, on one link.
 
 #ifndef KVTD_TESTS_PROOF_VIRTUAL_INSTRUMENT_H
 #define KVTD_TESTS_PROOF_VIRTUAL_INSTRUMENT_H
@@ -7,30 +7,36 @@
 #include <thread>
 #include <utility>
 
+#include "LinkNames.h"
 #include "link/host.h"
 
 namespace kvtd::test {
 
 class VirtualInstrument {
  public:
-  explicit VirtualInstrument(std::string serial)
-      : host_(OptionsOf(std::move(serial))), thread_([this] { host_.Run(); }) {}
+  VirtualInstrument(std::string serial, LinkKind link)
+      : link_(link), host_(OptionsOf(std::move(serial), link)), thread_([this] { host_.Run(); }) {}
   ~VirtualInstrument() {
     host_.Stop();
     thread_.join();
   }
 
-  std::string ResourceName() const {
-    return "TCPIP0::127.0.0.1::" + std::to_string(host_.listeners().front().port) + "::SOCKET";
-  }
+  // As ResourceOn.
+  std::string ResourceName() const { return ResourceOn(link_, host_.listeners().front().port); }
 
  private:
-  static siggen::link::HostOptions OptionsOf(std::string serial) {
+  static siggen::link::HostOptions OptionsOf(std::string serial, LinkKind link) {
     siggen::link::HostOptions options;
     options.identity.serial = std::move(serial);
+    options.socket_port.reset();
+    options.map_port = false;
+    (link == LinkKind::Hislip  ? options.hislip_port
+     : link == LinkKind::Vxi11 ? options.vxi11_port
+                               : options.socket_port) = std::uint16_t{0};
     return options;
   }
 
+  const LinkKind link_;
   siggen::link::Host host_;
   std::thread thread_;
 };

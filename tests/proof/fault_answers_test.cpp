@@ -14,8 +14,7 @@ namespace kvtd::test {
 namespace {
 
 class Answers : public Faults {};
-INSTANTIATE_TEST_SUITE_P(Links, Answers, testing::Values(LinkKind::Socket, LinkKind::Hislip, LinkKind::Vxi11),
-                         LinkName);
+INSTANTIATE_TEST_SUITE_P(Links, Answers, EveryLink(), LinkName);
 
 // The bytes in pieces of a size, each a receive of its own.
 Twist InPieces(std::size_t size, Milliseconds pause) {

@@ -71,8 +71,7 @@ class SystemCalls : public Faults {
     }
   }
 };
-INSTANTIATE_TEST_SUITE_P(Links, SystemCalls, testing::Values(LinkKind::Socket, LinkKind::Hislip, LinkKind::Vxi11),
-                         LinkName);
+INSTANTIATE_TEST_SUITE_P(Links, SystemCalls, EveryLink(), LinkName);
 
 TEST_P(SystemCalls, DisturbedOnceChangeNothing) {
   Cases cases(link(), "a system call that is disturbed", 2000);

@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "Link.h"
+#include "LinkNames.h"
 #include "LinkThread.h"
 
 namespace kvtd::test {
@@ -174,9 +175,7 @@ class HislipLink final : public Link {
  public:
   HislipLink(Dialogue& dialogue, Family family) : dialogue_(dialogue), family_(family), thread_(family, Server()) {}
 
-  std::string ResourceName() const override {
-    return std::string("TCPIP0::") + LoopbackHost(family_) + "::hislip0," + std::to_string(port()) + "::INSTR";
-  }
+  std::string ResourceName() const override { return ResourceOn(LinkKind::Hislip, port(), family_); }
   std::uint16_t port() const override { return thread_.port(); }
   bool Finish(Milliseconds patience) override { return thread_.Finish(patience); }
 

@@ -35,6 +35,4 @@ void LinkThread::Run() {
   ended_.Ring();
 }
 
-const char* LoopbackHost(Family family) { return family == Family::V4 ? "127.0.0.1" : "[::1]"; }
-
 }  // namespace kvtd::test

@@ -39,9 +39,6 @@ class LinkThread {
   std::thread thread_;
 };
 
-// The loopback address of the family as it stands in a resource name.
-const char* LoopbackHost(Family family);
-
 }  // namespace kvtd::test
 
 #endif

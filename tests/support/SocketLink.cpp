@@ -5,6 +5,7 @@
 #include <cerrno>
 
 #include "Link.h"
+#include "LinkNames.h"
 #include "LinkThread.h"
 
 namespace kvtd::test {
@@ -15,9 +16,7 @@ class SocketLink final : public Link {
  public:
   SocketLink(Dialogue& dialogue, Family family) : dialogue_(dialogue), family_(family), thread_(family, Server()) {}
 
-  std::string ResourceName() const override {
-    return std::string("TCPIP0::") + LoopbackHost(family_) + "::" + std::to_string(port()) + "::SOCKET";
-  }
+  std::string ResourceName() const override { return ResourceOn(LinkKind::Socket, port(), family_); }
   std::uint16_t port() const override { return thread_.port(); }
   bool Finish(Milliseconds patience) override { return thread_.Finish(patience); }
 

@@ -6,11 +6,11 @@
 // unfinished as it can over the raw socket. Pauses and ends of the connection come when the client reads that far.
 
 #include <algorithm>
-#include <cstdlib>
 #include <deque>
 #include <optional>
 
 #include "Link.h"
+#include "LinkNames.h"
 #include "LinkThread.h"
 
 namespace kvtd::test {
@@ -240,10 +240,7 @@ class Vxi11Link final : public Link {
  public:
   Vxi11Link(Dialogue& dialogue, Family family) : dialogue_(dialogue), family_(family), thread_(family, Server()) {}
 
-  std::string ResourceName() const override {
-    ::setenv("TVR_VISA_VXI11_PORT", std::to_string(port()).c_str(), 1);
-    return std::string("TCPIP0::") + LoopbackHost(family_) + "::inst0::INSTR";
-  }
+  std::string ResourceName() const override { return ResourceOn(LinkKind::Vxi11, port(), family_); }
   std::uint16_t port() const override { return thread_.port(); }
   bool Finish(Milliseconds patience) override { return thread_.Finish(patience); }
 

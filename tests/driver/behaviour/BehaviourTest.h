@@ -5,19 +5,19 @@
 
 #include <KVTD481X2C.h>
 
-#include <cstdlib>
 #include <string>
 #include <string_view>
 
 #include "DriverDialogue.h"
 #include "InstrumentProcess.h"
+#include "LinkNames.h"
 
 namespace kvtd::test {
 
-class BehaviourTest : public testing::TestWithParam<const char*> {
+class BehaviourTest : public testing::TestWithParam<LinkKind> {
  protected:
   void SetUp() override {
-    std::string resource = Resource();
+    std::string resource = ResourceOn(GetParam(), program_.port(LabelOf(GetParam())));
     ASSERT_STATUS(VI_SUCCESS,
                   KVTD481X2C_InitWithOptions(resource.data(), VI_TRUE, VI_TRUE, "QueryInstrStatus=1", &vi_));
   }
@@ -48,22 +48,10 @@ class BehaviourTest : public testing::TestWithParam<const char*> {
   ViSession vi_ = VI_NULL;
 
  private:
-  std::string Resource() const {
-    if (std::string_view(GetParam()) == "socket") return program_.SocketResource();
-    if (std::string_view(GetParam()) == "vxi11") {
-      ::setenv("TVR_VISA_VXI11_PORT", std::to_string(program_.port("vxi11")).c_str(), 1);
-      return "TCPIP0::127.0.0.1::inst0::INSTR";
-    }
-    return "TCPIP0::127.0.0.1::hislip0," + std::to_string(program_.port("hislip")) + "::INSTR";
-  }
-
   InstrumentProcess program_{KVTD_INSTRUMENT,
                              {"--socket", "0", "--hislip", "0", "--vxi11", "0", "--portmapper", "off"},
                              {"socket", "hislip", "vxi11"}};
 };
-
-inline auto EveryLink() { return testing::Values("socket", "hislip", "vxi11"); }
-inline std::string LinkName(const testing::TestParamInfo<const char*>& link) { return link.param; }
 
 }  // namespace kvtd::test
 
