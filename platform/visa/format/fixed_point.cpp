@@ -4,6 +4,10 @@
 // powers.
 #include "format/fixed_point.h"
 
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
+
 #include <array>
 #include <bit>
 #include <cstdint>
@@ -33,26 +37,54 @@ constexpr auto kPowersOfTen = PowersOfTen();
   return high_digits + ((pairs - 10 * high_digits) << 8) + 0x3030'3030'3030'3030;
 }
 
+struct TwoGroups {
+  std::uint64_t high;
+  std::uint64_t low;
+};
+
+// The same of two numbers at once.
+[[gnu::always_inline]] inline TwoGroups SixteenDigits(std::uint32_t high, std::uint32_t low) {
+#ifdef __SSE2__
+  const __m128i both = _mm_set_epi64x(low, high);
+  const __m128i high_halves = _mm_srli_epi64(_mm_mul_epu32(both, _mm_set1_epi64x(3518437209)), 45);
+  const __m128i low_halves = _mm_sub_epi64(both, _mm_mul_epu32(high_halves, _mm_set1_epi64x(10000)));
+  const __m128i halves = _mm_or_si128(high_halves, _mm_slli_epi64(low_halves, 32));
+  const __m128i high_pairs = _mm_srli_epi16(_mm_mulhi_epu16(halves, _mm_set1_epi16(10486)), 4);
+  const __m128i low_pairs = _mm_sub_epi16(halves, _mm_mullo_epi16(high_pairs, _mm_set1_epi16(100)));
+  const __m128i pairs = _mm_or_si128(high_pairs, _mm_slli_epi32(low_pairs, 16));
+  const __m128i high_digits = _mm_mulhi_epu16(pairs, _mm_set1_epi16(6554));
+  const __m128i low_digits = _mm_sub_epi16(pairs, _mm_mullo_epi16(high_digits, _mm_set1_epi16(10)));
+  const __m128i text = _mm_or_si128(_mm_or_si128(high_digits, _mm_slli_epi16(low_digits, 8)), _mm_set1_epi8('0'));
+  return {static_cast<std::uint64_t>(_mm_cvtsi128_si64(text)),
+          static_cast<std::uint64_t>(_mm_cvtsi128_si64(_mm_unpackhi_epi64(text, text)))};
+#else
+  return {EightDigits(high), EightDigits(low)};
+#endif
+}
+
 static_assert(std::endian::native == std::endian::little, "the lowest byte of EightDigits goes out first");
 
-// `count` digits (1 to 8) of a number that has no more; writes eight bytes whatever the count.
-[[gnu::always_inline]] inline void WriteGroup(char* out, std::uint64_t value, int count) {
-  const std::uint64_t text = EightDigits(static_cast<std::uint32_t>(value)) >> (8 * (8 - count));
+// The last `count` (1 to 8) of eight digits; writes eight bytes whatever the count.
+[[gnu::always_inline]] inline void WriteGroup(char* out, std::uint64_t digits, int count) {
+  const std::uint64_t text = digits >> (8 * (8 - count));
   std::memcpy(out, &text, sizeof text);
 }
 
 // Exactly `count` digits (1 to 19), zeros in front; writes up to seven bytes beyond them.
 [[gnu::always_inline]] inline void WriteDigits(char* out, std::uint64_t value, int count) {
   constexpr std::uint64_t kGroup = 100000000;
-  if (count <= 8) return WriteGroup(out, value, count);
-  const std::uint64_t above = value / kGroup;
-  if (count <= 16) {
-    WriteGroup(out, above, count - 8);
-  } else {
-    WriteGroup(out, above / kGroup, count - 16);
-    WriteGroup(out + count - 16, above % kGroup, 8);
+  if (count <= 8) return WriteGroup(out, EightDigits(static_cast<std::uint32_t>(value)), count);
+  std::uint64_t above = value / kGroup;
+  const auto last = static_cast<std::uint32_t>(value % kGroup);
+  if (count > 16) {
+    WriteGroup(out, EightDigits(static_cast<std::uint32_t>(above / kGroup)), count - 16);
+    out += count - 16;
+    above %= kGroup;
+    count = 16;
   }
-  WriteGroup(out + count - 8, value % kGroup, 8);
+  const TwoGroups digits = SixteenDigits(static_cast<std::uint32_t>(above), last);
+  WriteGroup(out, digits.high, count - 8);
+  WriteGroup(out + count - 8, digits.low, 8);
 }
 
 [[gnu::always_inline]] inline int DigitCount(std::uint64_t value) {
