@@ -201,33 +201,6 @@ TEST_F(ReadWrite, AResetConnectionIsLostAndRaisesNoSignal) {
   }
 }
 
-TEST_F(ReadWrite, TerminateEndsABlockedReadAndTheSessionGoesOn) {
-  std::promise<void> go;
-  Open([go = go.get_future().share()](Connection& c) {
-    go.wait();
-    c.Send("after\n");
-    c.WaitForClose();
-  });
-  Timeout(10000);
-  for (const int pause : {1, 20}) {
-    auto reading = std::async(std::launch::async, [&] {
-      char buffer[8];
-      return viRead(vi, reinterpret_cast<ViPBuf>(buffer), sizeof buffer, nullptr);
-    });
-    std::this_thread::sleep_for(std::chrono::milliseconds(pause));
-    const Stopwatch watch;
-    // A read that has not begun yet has nothing to be ended.
-    while (reading.wait_for(std::chrono::milliseconds(9)) == std::future_status::timeout) {
-      ASSERT_EQ(VI_SUCCESS, viTerminate(vi, VI_NULL, VI_NULL));
-      ASSERT_LT(watch.OwnMilliseconds(), 2000);
-    }
-    EXPECT_EQ(VI_ERROR_ABORT, reading.get());
-  }
-  EXPECT_EQ(VI_SUCCESS, viTerminate(vi, VI_NULL, VI_NULL)) << "nothing is in progress";
-  go.set_value();
-  EXPECT_EQ("after\n", Read(10));
-}
-
 TEST_F(ReadWrite, ClosingASessionEndsItsBlockedRead) {
   OpenTo("");
   Timeout(10000);

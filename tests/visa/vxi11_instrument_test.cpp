@@ -1,8 +1,6 @@
 // The VXI-11 link from end to end, against the virtual instrument.
-#include <atomic>
 #include <cstdlib>
 #include <future>
-#include <thread>
 
 #include "InstrumentProcess.h"
 #include "vxi11_peer.h"
@@ -110,25 +108,6 @@ TEST_F(Vxi11Instrument, AReadWithoutAQuestionIsATimeoutAndTheSessionGoesOn) {
   ViReal64 power = 0.0;
   EXPECT_EQ(VI_SUCCESS, viQueryf(vi, ":POW -7;:POW?\n", "%lf", &power));
   EXPECT_EQ(-7.0, power);
-}
-
-TEST_F(Vxi11Instrument, AnotherThreadEndsAReadAndTheSessionGoesOn) {
-  const ViSession vi = Open();
-  ASSERT_EQ(VI_SUCCESS, viSetAttribute(vi, VI_ATTR_TMO_VALUE, 60000));
-  auto reading = std::async(std::launch::async, [vi] {
-    ViByte into[16];
-    return viRead(vi, into, sizeof into, nullptr);
-  });
-  // A request that comes before the read has begun is forgotten, so it is made until it is felt.
-  while (reading.wait_for(std::chrono::milliseconds(10)) == std::future_status::timeout) {
-    ASSERT_EQ(VI_SUCCESS, viTerminate(vi, VI_NULL, VI_NULL));
-  }
-  EXPECT_EQ(VI_ERROR_ABORT, reading.get());
-  ViReal64 power = 0.0;
-  for (int i = 0; i < 20; ++i) {
-    ASSERT_EQ(VI_SUCCESS, viQueryf(vi, ":POW -7;:POW?\n", "%lf", &power));
-    ASSERT_EQ(-7.0, power);
-  }
 }
 
 TEST_F(Vxi11Instrument, AnAnswerThatComesTooLateIsNeverTheNextOne) {

@@ -1,7 +1,7 @@
 // A virtual instrument in a thread of this process, on one link.
 
-#ifndef KVTD_TESTS_PROOF_VIRTUAL_INSTRUMENT_H
-#define KVTD_TESTS_PROOF_VIRTUAL_INSTRUMENT_H
+#ifndef KVTD_TESTS_SUPPORT_VIRTUAL_INSTRUMENT_H
+#define KVTD_TESTS_SUPPORT_VIRTUAL_INSTRUMENT_H
 
 #include <string>
 #include <thread>
