@@ -29,7 +29,7 @@ int Serve(const siggen::link::HostOptions& options) {
 
 }  // namespace
 
-int main(int argc, char** argv) {
+int main(int argc, char** argv) try {
   siggen::link::HostOptions options;
   options.end_on_signals = true;
   std::string model(options.identity.variant.name);
@@ -71,10 +71,8 @@ int main(int argc, char** argv) {
   options.map_port = port_mapper != "off";
   if (options.map_port && port_mapper != "auto") options.port_mapper = PortIn(port_mapper);
   for (const std::string& text : fault_texts) options.faults.push_back(*siggen::link::ParseFault(text));
-  try {
-    return Serve(options);
-  } catch (const std::exception& problem) {
-    std::fprintf(stderr, "td481x2c-instrument: %s\n", problem.what());
-    return 1;
-  }
+  return Serve(options);
+} catch (const std::exception& problem) {
+  std::fprintf(stderr, "td481x2c-instrument: %s\n", problem.what());
+  return 1;
 }

@@ -15,7 +15,12 @@ inline DriverSession* FindSession(ViSession vi) {
   return IviSession_GetDataPtr(vi, &session) < 0 ? nullptr : static_cast<DriverSession*>(session);
 }
 
-inline DriverSession& SessionOf(ViSession vi) { return *FindSession(vi); }
+// Inside a frame, whose lock keeps the session from being closed.
+inline DriverSession& SessionOf(ViSession vi) {
+  DriverSession* const session = FindSession(vi);
+  assert(session != nullptr);
+  return *session;
+}
 
 inline ViStatus CheckInstrumentStatus(ViSession vi) { return SessionOf(vi).CheckInstrumentStatus(); }
 

@@ -17,7 +17,7 @@ constexpr std::uint32_t kLastFragment = 0x80000000;
 // The other side is given up when it does not take what it is sent and more is to be sent.
 constexpr std::size_t kTooManyOutgoing = 64;
 // Room is made as a record arrives and not as it announces itself; no more than this is kept from one to the next.
-constexpr std::size_t kStep = 64 * 1024;
+constexpr std::size_t kStep = std::size_t{64} * 1024;
 
 std::uint32_t Number(const char* bytes) {
   std::uint32_t number = 0;

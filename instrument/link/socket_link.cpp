@@ -10,7 +10,7 @@ namespace siggen::link {
 namespace {
 
 // While an answer is owed, this much may be received ahead; then the client has to wait.
-constexpr std::size_t kReadAhead = 64 * 1024;
+constexpr std::size_t kReadAhead = std::size_t{64} * 1024;
 
 }  // namespace
 
@@ -49,13 +49,12 @@ void SocketLink::Pump() {
     session_.Run();
     if (session_.answer_ready()) {
       Send(session_.TakeAnswer());
-    } else if (session_.waiting()) {
-      break;
-    } else if (auto message = framer_.Next()) {
-      session_.Submit(std::move(*message));
-    } else {
-      break;
+      continue;
     }
+    if (session_.waiting()) break;
+    auto message = framer_.Next();
+    if (!message) break;
+    session_.Submit(std::move(*message));
   }
   services_.Worked();
 }

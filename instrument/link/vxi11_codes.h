@@ -28,6 +28,6 @@ enum Reason : int { kRequestCount = 1, kCharacter = 2, kEndOfAnswer = 4 };
 inline constexpr std::uint32_t kMaxRecvSize = 1 << 20;
 inline constexpr std::size_t kMostReturned = 1 << 20;  // by one device_read
 // What is longer than maxRecvSize is refused as a write, as far as it can be received at all.
-inline constexpr std::size_t kLongestRecord = 2 * kMaxRecvSize;
+inline constexpr std::size_t kLongestRecord = std::size_t{2} * kMaxRecvSize;
 
 }  // namespace siggen::link::vxi11

@@ -1,5 +1,7 @@
 #include "model/bind.h"
 
+#include <utility>
+
 namespace siggen::model {
 
 using scpi::Call;
@@ -14,7 +16,7 @@ void AnswerReal(Call& call, Quantity quantity, double value, const Limits& limit
 void BindReal(Commands& commands, std::string_view pattern, RealSetting setting) {
   commands.Ask(pattern, {0, 1},
                [setting](Call& call) { AnswerReal(call, setting.quantity, setting.get(), setting.limits()); });
-  commands.Do(pattern, scpi::kOne, [setting](Call& call) {
+  commands.Do(pattern, scpi::kOne, [setting = std::move(setting)](Call& call) {
     const Limits limits = setting.limits();
     if (setting.step) {
       if (const int direction = call.StepDirection(); direction != 0) {
