@@ -183,7 +183,12 @@ TEST_P(SystemCalls, FailingAmidABringUpLeaveAnOpenSessionOrNothing) {
       // A link without its abort channel is a link.
       const bool dispensable = has_receipts() && disturbance.after == 2 &&
                                (failure.call == Which::kSocket || failure.call == Which::kConnect);
-      EXPECT_EQ(harmless || dispensable || !disturbed, status == VI_SUCCESS) << std::hex << status;
+      // A device may end the connection when it is asked for two calls at a time. Another is made.
+      const bool is_lost = failure.error == ECONNRESET || failure.error == EPIPE;
+      const bool is_at_the_question = (failure.call == Which::kSend && disturbance.after == 2) ||
+                                      (failure.call == Which::kReceive && (disturbance.after | 1) == 3);
+      const bool is_made_good = has_receipts() && is_lost && is_at_the_question;
+      EXPECT_EQ(harmless || dispensable || is_made_good || !disturbed, status == VI_SUCCESS) << std::hex << status;
       const Outcome outcome{status, {}};
       EXPECT_TRUE(outcome.IsOneOf({VI_SUCCESS, kVisaConnectionLost, kVisaOutOfMemory, kVisaNotFound, kVisaTimeout}))
           << std::hex << status;
