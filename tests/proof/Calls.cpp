@@ -13,6 +13,16 @@
 namespace kvtd::test {
 namespace {
 
+template <class Parameter>
+constexpr Output OutputOf() {
+  if constexpr (std::is_same_v<Parameter, ViReal64*>) return Output::kReal;
+  if constexpr (std::is_same_v<Parameter, ViInt32*>) return Output::kInteger;
+  if constexpr (std::is_same_v<Parameter, ViBoolean*>) return Output::kBoolean;
+  if constexpr (std::is_same_v<Parameter, ViChar*>) return Output::kText;
+  const bool is_output = std::is_pointer_v<Parameter> && !std::is_const_v<std::remove_pointer_t<Parameter>>;
+  return is_output ? Output::kSeveral : Output::kNothing;
+}
+
 template <class Function>
 struct Shape;
 
@@ -36,6 +46,18 @@ struct Shape<ViStatus (*)(Parameters...)> {
     return inputs;
   }();
 
+  static constexpr Output kOutput = [] {
+    Output output = Output::kNothing;
+    bool is_first = true;
+    const auto add = [&](Output kind) {
+      // The text that comes first in a call without a session is a resource.
+      if (kind != Output::kNothing && !is_first) output = output == Output::kNothing ? kind : Output::kSeveral;
+      is_first = false;
+    };
+    (add(OutputOf<Parameters>()), ...);
+    return output;
+  }();
+
   static ViStatus Make(Function function, Arguments& arguments) {
     return Make(function, arguments, std::index_sequence_for<Parameters...>());
   }
@@ -54,6 +76,7 @@ constexpr Call kFunctions[] = {
    0,                                                            \
    Shape<decltype(&function)>::kPointers,                        \
    Shape<decltype(&function)>::kInputs,                          \
+   Shape<decltype(&function)>::kOutput,                          \
    Shape<decltype(&function)>::kHasSession,                      \
    [](Arguments& arguments) { return Shape<decltype(&function)>::Make(function, arguments); }},
 #include "exports.inc"

@@ -11,6 +11,9 @@
 
 namespace kvtd::test {
 
+// What a call gives out beside its status.
+enum class Output { kNothing, kReal, kInteger, kBoolean, kText, kSeveral };
+
 struct Call {
   // Without the prefix KVTD481X2C_.
   std::string_view function;
@@ -20,6 +23,7 @@ struct Call {
   // How many of its parameters are pointers, and which of these the call only reads, a bit for each.
   std::size_t pointers;
   unsigned inputs;
+  Output output;
   // Its first parameter is a session.
   bool has_session;
   ViStatus (*make)(Arguments& arguments);

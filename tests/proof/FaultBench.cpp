@@ -19,9 +19,13 @@ namespace {
 constexpr ViStatus kVisaInvalidObject = Status(0xBFFF000EU);
 
 // Of these one or the other suits each call that can be answered in one line.
-constexpr const char* kAnswers[] = {
-    "1\n",  "2.5\n", "#14abcd\n", "0,\"No error\"\n", "2026,11,21\n", "FIX\n", "INT\n", "SIN\n", "LIN\n",  "NORM\n",
-    "UP\n", "POS\n", "IMM\n",     "AUTO\n",           "ANAL\n",       "OFF\n", "EXT\n", "DC\n",  "GPIB\n", "LF\n"};
+constexpr const char* kAnswers[] = {"1\n",          "2.5\n",         "#14abcd\n",   "0,\"No error\"\n",
+                                    "2026,11,21\n", "a package,1\n", "FIX\n",       "INT\n",
+                                    "SINE\n",       "LIN\n",         "NORM\n",      "UP\n",
+                                    "POS\n",        "IMM\n",         "AUTO\n",      "ANAL\n",
+                                    "EXT\n",        "DC\n",          "LOCK\n",      "MIN\n",
+                                    "F0\n",         "L0\n",          "HIGH\n",      "TRIG\n",
+                                    "LFE\n",        "POIN\n",        "REF INT 10\n"};
 
 struct Subjects {
   std::vector<Subject> readers;
