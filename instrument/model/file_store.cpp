@@ -19,7 +19,7 @@ constexpr std::size_t kUsbCapacity = std::size_t{512} << 20;
 constexpr std::size_t kLongestName = 255;
 constexpr std::size_t kMostEntries = 10'000;
 // A smaller file is copied, so that it does not hold on to the whole buffer it came in.
-constexpr std::size_t kSmallFile = 64 * 1024;
+constexpr std::size_t kSmallFile = std::size_t{64} * 1024;
 
 constexpr std::string_view kSystemFiles[][2] = {{"system/welcome.txt", "TD481X2C signal generator\n"}};
 

@@ -10,8 +10,6 @@ namespace siggen::model {
 namespace {
 
 using scpi::Call;
-using scpi::Error;
-using scpi::Refusal;
 
 constexpr scpi::Word<Drive> kDrives[] = {
     {"FIXed", Drive::kFixed}, {"CW", Drive::kFixed},    {"SWEep", Drive::kSweep},   {"SWEep1", Drive::kSweep},

@@ -33,7 +33,7 @@ constexpr Range kPowerPresets[] = {{1, 2}, {3, 4}, {5, 6}, {7, 8}, {9, 0}};
 using Span = std::function<double()>;
 
 // What the two sweeps have in common.
-void AddSweep(Commands& commands, const std::string& tree, SweepSettings& sweep, Span span) {
+void AddSweep(Commands& commands, const std::string& tree, SweepSettings& sweep, const Span& span) {
   BindChoice(commands, tree + ":DIRection", kDirections, sweep.direction);
 
   commands.Do(tree + ":POINts", scpi::kOne, [&sweep](Call& call) {
@@ -84,7 +84,7 @@ void AddSweep(Commands& commands, const std::string& tree, SweepSettings& sweep,
 }
 
 void AddStep(Commands& commands, const std::string& pattern, Quantity quantity, Limits limits, SweepSettings& sweep,
-             Span span) {
+             const Span& span) {
   BindReal(commands, pattern,
            {quantity,
             [limits] { return limits; },
