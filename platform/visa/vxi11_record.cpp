@@ -24,6 +24,9 @@ ViUInt32 Number(const ViByte* in) {
 void RecordStream::Add(std::span<ViByte> head, std::span<const iovec> data) {
   static constexpr std::array<ViByte, BYTES_PER_XDR_UNIT> kZeros{};
   std::size_t data_length = 0;
+  // Beside the data a head, what fills it up, and the head of a record to come. What stood here half when memory ended
+  // would go out with the next call; a link is left in a destructor, which no exception may leave.
+  if (!data.empty()) gather_.reserve(gather_.size() + data.size() + 3);
   gather_.push_back({head.data(), head.size()});
   for (const iovec& piece : data) {
     gather_.push_back(piece);

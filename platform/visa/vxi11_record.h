@@ -23,13 +23,17 @@ constexpr ViStatus kMalformed = VI_ERROR_INV_PROT;
 // be given up at any byte and goes on from there: what is left of a record goes when the next one is asked for.
 class RecordStream {
  public:
-  RecordStream(Interruption& interruption, std::size_t buffer_size) : stream_(interruption), buffer_(buffer_size) {}
+  RecordStream(Interruption& interruption, std::size_t buffer_size) : stream_(interruption), buffer_(buffer_size) {
+    gather_.reserve(kFewPieces);
+  }
 
   TcpStream& stream() { return stream_; }
   const TcpStream& stream() const { return stream_; }
 
   // `head` begins with kMarkSize bytes for the record's mark, which is filled in here; `data` follow, and what XDR
-  // wants behind them. Both stay where they are until the next Send, which takes along all that was added.
+  // wants behind them. Both stay where they are until the next Send, which takes along all that was added. Where there
+  // is no memory for many pieces of data, nothing was added; up to two records without data, or one behind one with
+  // data, always find room.
   static constexpr std::size_t kMarkSize = 4;
   void Add(std::span<ViByte> head, std::span<const iovec> data = {});
   // One system call when the kernel takes them.
@@ -72,6 +76,7 @@ class RecordStream {
   ViStatus NextFragment(Deadline& deadline);
 
   TcpStream stream_;
+  static constexpr std::size_t kFewPieces = 4;
   std::vector<iovec> gather_;
   bool sent_in_part_ = false;
 

@@ -4,13 +4,12 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <filesystem>
-#include <iterator>
 #include <map>
 #include <stdexcept>
 #include <string_view>
 #include <utility>
 
+#include "Descriptors.h"
 #include "Proof.h"
 
 namespace kvtd::test {
@@ -74,10 +73,6 @@ Milliseconds LongestWait(const Call& call) {
                                                           {"Disable", 2000}};
   const auto found = kRaised.find(call.function);
   return Milliseconds(found == kRaised.end() ? kTimeout : std::max(kTimeout, found->second));
-}
-
-std::size_t OpenDescriptors() {
-  return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {}));
 }
 
 }  // namespace

@@ -7,11 +7,10 @@
 
 #include <array>
 #include <cstdio>
-#include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <utility>
 
+#include "Descriptors.h"
 #include "DriverDialogue.h"
 
 // Of a sanitizer's allocator, where there is one; the C library knows nothing of that.
@@ -34,11 +33,6 @@ std::size_t Resident() {
   std::size_t resident = 0;
   statm >> size >> resident;
   return resident * static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
-}
-
-// The folder that is read is one descriptor more.
-std::size_t OpenDescriptors() {
-  return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {})) - 1;
 }
 
 double Difference(std::size_t before, std::size_t after) {
