@@ -4,16 +4,9 @@
 // fuzzer `scpi` is there for it.
 #pragma once
 
-#include <arpa/inet.h>
-#include <netinet/in.h>
-#include <poll.h>
-#include <sys/socket.h>
-#include <unistd.h>
-
 #include <array>
 #include <asio/io_context.hpp>
 #include <asio/post.hpp>
-#include <cerrno>
 #include <chrono>
 #include <cstdint>
 #include <memory>
@@ -21,48 +14,12 @@
 #include <vector>
 
 #include "Input.h"
+#include "LoopbackClient.h"
 #include "Require.h"
 #include "link/services.h"
 #include "model/instrument.h"
 
 namespace kvtd::fuzz {
-
-class Client {
- public:
-  // Not waiting: libFuzzer's timer would interrupt it.
-  explicit Client(std::uint16_t port) : socket_(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0)) {
-    // Closed by a reset, so that no ports are used up.
-    const linger at_once{1, 0};
-    ::setsockopt(socket_, SOL_SOCKET, SO_LINGER, &at_once, sizeof at_once);
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_port = htons(port);
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    const int result = ::connect(socket_, reinterpret_cast<const sockaddr*>(&address), sizeof address);
-    Require(result == 0 || errno == EINPROGRESS, "the instrument takes connections");
-  }
-  ~Client() { ::close(socket_); }
-  Client(const Client&) = delete;
-  Client& operator=(const Client&) = delete;
-
-  void Send(const std::string& bytes) {
-    [[maybe_unused]] const auto sent = ::send(socket_, bytes.data(), bytes.size(), MSG_NOSIGNAL);
-  }
-  std::string Receive() {
-    std::array<char, 4096> bytes;
-    const auto count = ::recv(socket_, bytes.data(), bytes.size(), 0);
-    return {bytes.data(), static_cast<std::size_t>(count > 0 ? count : 0)};
-  }
-  // On a busy machine the loopback interface takes a moment.
-  void AwaitReadable() const {
-    pollfd wait{socket_, POLLIN, 0};
-    ::poll(&wait, 1, 10);
-  }
-  void EndSending() { ::shutdown(socket_, SHUT_WR); }
-
- private:
-  int socket_;
-};
 
 template <class Server>
 class ServerBench : public siggen::link::Services {

@@ -32,4 +32,11 @@ inline std::string Record(const std::string& message) {
   return Word(0x80000000U | static_cast<std::uint32_t>(message.size())) + message;
 }
 
+// A call without credentials, as a message.
+inline std::string RpcCall(std::uint32_t number, std::uint32_t program, std::uint32_t version, std::uint32_t procedure,
+                           const std::string& arguments) {
+  return Word(number) + Word(0) + Word(2) + Word(program) + Word(version) + Word(procedure) + Word(0) + Word(0) +
+         Word(0) + Word(0) + arguments;
+}
+
 }  // namespace kvtd::fuzz

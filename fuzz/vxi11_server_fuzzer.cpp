@@ -21,8 +21,7 @@ constexpr std::size_t kLinkReply = 44, kWriteReply = 36, kReadReply = 40;
 constexpr std::uint32_t kCreateLink = 10, kWrite = 11, kRead = 12;
 
 std::string Call(std::uint32_t program, std::uint32_t procedure, const std::string& arguments) {
-  return Record(Word(0x2A) + Word(0) + Word(2) + Word(program) + Word(1) + Word(procedure) + Word(0) + Word(0) +
-                Word(0) + Word(0) + arguments);
+  return Record(RpcCall(0x2A, program, 1, procedure, arguments));
 }
 
 class Bench final : public ServerBench<siggen::link::Vxi11Server> {
