@@ -6,7 +6,7 @@
 namespace siggen::scpi {
 namespace {
 
-constexpr std::size_t kOrdinaryRoom = 16 * 1024;
+constexpr std::size_t kOrdinaryRoom = std::size_t{16} * 1024;
 
 }  // namespace
 

@@ -9,7 +9,7 @@
 namespace tvr::visa {
 namespace {
 
-constexpr std::size_t kPiece = 64 * 1024;
+constexpr std::size_t kPiece = std::size_t{64} * 1024;
 
 struct Closer {
   void operator()(std::FILE* file) const { std::fclose(file); }

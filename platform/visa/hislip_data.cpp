@@ -8,7 +8,7 @@ namespace tvr::visa::hislip {
 namespace {
 
 // An answer that may be a late one is kept until its end proves it. More than this is not kept.
-constexpr std::size_t kMostHeld = 16 * 1024 * 1024;
+constexpr std::size_t kMostHeld = std::size_t{16} * 1024 * 1024;
 
 // Bytes of `from` up to and including the termchar.
 std::size_t Through(std::optional<ViByte> termchar, std::span<const ViByte> from, bool& found) {

@@ -11,7 +11,7 @@ namespace tvr::visa {
 namespace {
 
 // Larger buffers are refused: a wrong number should not eat the memory.
-constexpr std::size_t kLargestBuffer = 64 * 1024 * 1024;
+constexpr std::size_t kLargestBuffer = std::size_t{64} * 1024 * 1024;
 constexpr ViUInt32 kDefaultOpenTimeout = 2000;
 
 bool MoreThanOne(unsigned flags) { return std::popcount(flags) > 1; }

@@ -16,7 +16,7 @@ namespace tvr::visa {
 namespace {
 
 // With a termchar to look for, no more than this is received at a time: what lies behind the termchar has to be kept.
-constexpr std::size_t kMostAhead = 128 * 1024;
+constexpr std::size_t kMostAhead = std::size_t{128} * 1024;
 
 class SocketTransport final : public Transport {
  public:

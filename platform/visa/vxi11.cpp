@@ -11,7 +11,7 @@ namespace tvr::visa::vxi11 {
 namespace {
 
 // Small answers come in one receive; of large ones this much is copied, the rest is not.
-constexpr std::size_t kCoreBuffer = 32 * 1024;
+constexpr std::size_t kCoreBuffer = std::size_t{32} * 1024;
 constexpr std::size_t kAbortBuffer = 512;
 // For exchanges that a session without a timeout makes all the same.
 constexpr ViUInt32 kOwnPatience = 2000;

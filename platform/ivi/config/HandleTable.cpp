@@ -10,6 +10,7 @@ static_assert(sizeof(IviConfigHandle) == sizeof(std::uint64_t), "a handle holds 
 
 // The lowest bit is set, as in no pointer to an object of any size but one byte.
 IviConfigHandle Encode(std::uint32_t index, std::uint32_t generation) {
+  // NOLINTNEXTLINE(performance-no-int-to-ptr): the published type of a handle is a pointer
   return reinterpret_cast<IviConfigHandle>(std::uint64_t{generation} << 32 | std::uint64_t{index} << 1 | 1u);
 }
 

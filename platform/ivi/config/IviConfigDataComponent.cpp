@@ -3,10 +3,7 @@
 
 using tvrivi::DataComponent;
 using tvrivi::Handles;
-using tvrivi::HardwareAsset;
 using tvrivi::Operation;
-using tvrivi::Session;
-using tvrivi::SoftwareModule;
 using tvrivi::Target;
 
 namespace {

@@ -5,7 +5,6 @@ using tvrivi::DriverSession;
 using tvrivi::Handles;
 using tvrivi::HardwareAsset;
 using tvrivi::Operation;
-using tvrivi::PhysicalName;
 using tvrivi::Session;
 using tvrivi::SoftwareModule;
 using tvrivi::Target;

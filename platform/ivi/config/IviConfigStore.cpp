@@ -6,7 +6,6 @@ using tvrivi::DriverSession;
 using tvrivi::Handles;
 using tvrivi::Model;
 using tvrivi::Operation;
-using tvrivi::Session;
 using tvrivi::Store;
 using tvrivi::Target;
 

@@ -1,6 +1,7 @@
 #ifndef TVRIVI_CONFIG_OPERATION_H
 #define TVRIVI_CONFIG_OPERATION_H
 
+#include <exception>
 #include <memory>
 #include <new>
 #include <string>
@@ -55,10 +56,10 @@ class Operation {
   ViStatus Run(ViStatus failure, Work work) const noexcept {
     try {
       return work();
-    } catch (const StoreError& error) {
-      return Fail(failure, error.what());
     } catch (const std::bad_alloc&) {
       return Fail(IVI_ERROR_OUT_OF_MEMORY, "out of memory");
+    } catch (const std::exception& error) {
+      return Fail(failure, error.what());
     }
   }
 

@@ -18,7 +18,7 @@ class Args {
   // `T` as it is after the default promotions.
   template <class T>
   T Next() {
-    return va_arg(list_, T);
+    return va_arg(list_, T);  // NOLINT(clang-analyzer-valist.Uninitialized): the constructor copies it
   }
 
  private:
