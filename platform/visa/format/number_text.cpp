@@ -120,6 +120,7 @@ char* EverydayGeneral(char* begin, double magnitude, int significant) {
   int whole_digits = 1;
   if (magnitude >= 1.0) {
     if (magnitude >= 1e15) return nullptr;
+    // NOLINTNEXTLINE(clang-analyzer-security.FloatLoopCounter): these powers of ten are exact
     for (double limit = 10.0; magnitude >= limit; limit *= 10.0) ++whole_digits;
     places = significant - whole_digits;
   } else if (magnitude >= 1e-4) {
