@@ -19,7 +19,7 @@ ROWS = [
     ("Pause/cores:1", "ratio_of_sum", "what 250 ns twice would add by themselves"),
     ("SetWithStatus/cores:1", "ratio", "set with status check"),
     ("SetWithStatus/cores:2", "ratio", "the same on two cores"),
-    ("SetWithStatus/cores:1", "held_back", "of 12,400, those that took 20 to 60 ms"),
+    ("SetWithStatus/cores:1", "held_back", "of these sets, those that took 20 to 60 ms"),
     ("SetWithStatus/cores:1", "floor_held_back", "the same of the floor's: the machine's doing"),
     ("Set/cores:1", "ratio", "set without"),
     ("GetOneAttribute", "real_time", "simulated get"),
