@@ -51,6 +51,7 @@ void HislipPeer::Serve(int connection) const {
   constexpr std::size_t kLongestLine = 256;
   Input input(connection);
   std::string line;  // the beginning of the message under way
+  std::string made;
   bool begins = true;
   for (;;) {
     const std::string_view header = input.Take(kHeader);
@@ -69,7 +70,7 @@ void HislipPeer::Serve(int connection) const {
     if (type == kMaximumMessageSize) {
       good = SendAll(connection, Header(kMaximumMessageSizeResponse, 0, 8) + std::string{0, 0, 0, 0, 0, 16, 0, 0});
     }
-    if (type == kDataEnd && Answers::Asks(line)) good = SendAnswer(connection, parameter, answers_.To(line));
+    if (type == kDataEnd && Answers::Asks(line)) good = SendAnswer(connection, parameter, answers_.To(line, made));
     if (!good) return;
   }
 }

@@ -11,8 +11,9 @@ namespace bench {
 
 class HislipPeer {
  public:
-  explicit HislipPeer(int core = -1, std::size_t file_size = 0)
-      : answers_(file_size), listener_([this](int connection) { Serve(connection); }, core) {}
+  explicit HislipPeer(int core = -1, std::size_t file_size = 0) : HislipPeer(Answers(file_size), core) {}
+  explicit HislipPeer(Answers answers, int core = -1)
+      : answers_(std::move(answers)), listener_([this](int connection) { Serve(connection); }, core) {}
 
   std::uint16_t port() const { return listener_.port(); }
   std::string resource() const { return "TCPIP0::127.0.0.1::hislip0," + std::to_string(port()) + "::INSTR"; }

@@ -10,6 +10,7 @@ namespace bench {
 void Responder::Serve(int connection) const {
   std::array<char, 65536> buffer;
   std::string line;
+  std::string made;
   for (;;) {
     const ssize_t got = ::recv(connection, buffer.data(), buffer.size(), 0);
     if (got <= 0) return;
@@ -27,7 +28,7 @@ void Responder::Serve(int connection) const {
       }
       bytes.remove_prefix(end + 1);
       if (line.find('?') != std::string::npos) {
-        if (!SendAll(connection, answers_.To(line))) return;
+        if (!SendAll(connection, answers_.To(line, made))) return;
       }
       line.clear();
     }

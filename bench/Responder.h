@@ -12,7 +12,9 @@ namespace bench {
 
 class Responder {
  public:
-  explicit Responder(int core = -1) : listener_([this](int connection) { Serve(connection); }, core) {}
+  explicit Responder(int core = -1) : Responder(Answers(), core) {}
+  explicit Responder(Answers answers, int core = -1)
+      : answers_(std::move(answers)), listener_([this](int connection) { Serve(connection); }, core) {}
 
   std::uint16_t port() const { return listener_.port(); }
   std::string resource() const { return "TCPIP0::127.0.0.1::" + std::to_string(port()) + "::SOCKET"; }

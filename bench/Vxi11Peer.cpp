@@ -76,6 +76,7 @@ void Vxi11Peer::Serve(int connection) const {
   Replies replies(connection);
   std::string line;
   bool begins = true;
+  std::string made;
   std::string_view answer;
   for (;;) {
     const std::string_view mark = input.Take(4);
@@ -101,7 +102,7 @@ void Vxi11Peer::Serve(int connection) const {
         const std::uint32_t size = word(14);
         if (begins) line = text.substr(60, std::min<std::size_t>(size, kLongestLine));
         begins = (word(13) & kEndFlag) != 0;
-        if (begins && Answers::Asks(line)) answer = answers_.To(line);
+        if (begins && Answers::Asks(line)) answer = answers_.To(line, made);
         good = replies.Add(xid, Pack(0, size));
         break;
       }

@@ -12,8 +12,9 @@ namespace bench {
 
 class Vxi11Peer {
  public:
-  explicit Vxi11Peer(int core = -1, std::size_t file_size = 0)
-      : answers_(file_size), listener_([this](int connection) { Serve(connection); }, core) {}
+  explicit Vxi11Peer(int core = -1, std::size_t file_size = 0) : Vxi11Peer(Answers(file_size), core) {}
+  explicit Vxi11Peer(Answers answers, int core = -1)
+      : answers_(std::move(answers)), listener_([this](int connection) { Serve(connection); }, core) {}
 
   // Of the core channel; there is no port mapper to ask.
   std::uint16_t port() const { return listener_.port(); }

@@ -1,25 +1,26 @@
-// An instrument on a raw socket that answers a query with the last thing the query names, so that each answer tells
-// which question it belongs to. Any number of clients at a time.
+// An instrument that answers a query with the last thing the query names, so that each answer tells which question it
+// belongs to. Any number of clients at a time.
 
 #ifndef KVTD_TESTS_PROOF_ECHO_INSTRUMENT_H
 #define KVTD_TESTS_PROOF_ECHO_INSTRUMENT_H
 
 #include <string>
+#include <string_view>
 
-#include "Listener.h"
+#include "Peer.h"
 
 namespace kvtd::test {
 
 class EchoInstrument {
  public:
-  EchoInstrument() : listener_(Serve) {}
+  explicit EchoInstrument(LinkKind link) : peer_(link, bench::Answers(AnswerTo)) {}
 
-  std::string ResourceName() const { return "TCPIP0::127.0.0.1::" + std::to_string(listener_.port()) + "::SOCKET"; }
+  const std::string& ResourceName() const { return peer_.ResourceName(); }
 
  private:
-  static void Serve(int connection);
+  static std::string AnswerTo(std::string_view query);
 
-  bench::Listener listener_;
+  Peer peer_;
 };
 
 }  // namespace kvtd::test

@@ -22,12 +22,9 @@
 #include "Descriptors.h"
 #include "DriverDialogue.h"
 #include "Heap.h"
-#include "HislipPeer.h"
-#include "LinkNames.h"
+#include "Peer.h"
 #include "Proof.h"
-#include "Responder.h"
 #include "Stopwatch.h"
-#include "Vxi11Peer.h"
 
 namespace kvtd::test {
 namespace {
@@ -45,31 +42,6 @@ struct Kind {
   std::size_t first = 0;
 };
 
-// Answers on one link.
-class Peer {
- public:
-  explicit Peer(LinkKind link) {
-    switch (link) {
-      case LinkKind::Hislip:
-        resource_ = ResourceOn(link, hislip_.emplace().port());
-        break;
-      case LinkKind::Vxi11:
-        resource_ = ResourceOn(link, vxi11_.emplace().port());
-        break;
-      default:
-        resource_ = ResourceOn(link, socket_.emplace().port());
-    }
-  }
-
-  const std::string& resource() const { return resource_; }
-
- private:
-  std::optional<bench::Responder> socket_;
-  std::optional<bench::HislipPeer> hislip_;
-  std::optional<bench::Vxi11Peer> vxi11_;
-  std::string resource_;
-};
-
 class Exhausted : public testing::TestWithParam<Kind> {
  protected:
   // What a thread and each place for a session keep for their last error grows up to the longest text.
@@ -84,7 +56,7 @@ class Exhausted : public testing::TestWithParam<Kind> {
   }
 
   void SetUp() override {
-    resource_ = peer_.emplace(GetParam().link).resource();
+    resource_ = peer_.emplace(GetParam().link).ResourceName();
     EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_close(Open()));
   }
   // A peer is there until the last connection has ended.

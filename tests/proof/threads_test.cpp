@@ -54,7 +54,7 @@ Answer AskByHand(ViSession vi, ViInt32 tag) {
   return answer == std::to_string(tag) + "\n" ? Answer::Own : Answer::Crossed;
 }
 
-class ManyThreads : public testing::Test {
+class ManyThreads : public testing::TestWithParam<LinkKind> {
  protected:
   static constexpr int kLargest = 1'000'000;
 
@@ -71,7 +71,7 @@ class ManyThreads : public testing::Test {
 
   // All are open before the first asks, and until the last has asked.
   void OnASessionEach(int queries) {
-    const EchoInstrument instrument;
+    const EchoInstrument instrument(GetParam());
     std::barrier together(kSessions);
     std::vector<std::jthread> threads;
     for (int thread = 0; thread < kSessions; ++thread) {
@@ -93,10 +93,12 @@ class ManyThreads : public testing::Test {
   std::atomic<int> failed_ = 0;
 };
 
-TEST_F(ManyThreads, OnOneSessionEachGetItsOwnAnswers) {
+INSTANTIATE_TEST_SUITE_P(Links, ManyThreads, EveryLink(), LinkName);
+
+TEST_P(ManyThreads, OnOneSessionEachGetItsOwnAnswers) {
   constexpr int kThreads = 16;
   const int queries = InFullOrBrief(100'000, 1'000);
-  const EchoInstrument instrument;
+  const EchoInstrument instrument(GetParam());
   const LoadSession session(instrument.ResourceName(), "");
   ASSERT_NE(VI_NULL, session.vi());
 
@@ -107,14 +109,14 @@ TEST_F(ManyThreads, OnOneSessionEachGetItsOwnAnswers) {
       threads.emplace_back([&, thread] { Ask(session.vi(), thread, queries); });
     }
   }
-  std::printf("proof: threads %d x %d queries, %d crossed, %d failed, %.1f s\n", kThreads, queries, crossed_.load(),
-              failed_.load(), watch.seconds());
+  std::printf("proof: threads over %s %d x %d queries, %d crossed, %d failed, %.1f s\n", NameOf(GetParam()), kThreads,
+              queries, crossed_.load(), failed_.load(), watch.seconds());
   EXPECT_EQ(0, crossed_);
   EXPECT_EQ(0, failed_);
   EXPECT_EQ(kThreads * queries, own_);
 }
 
-TEST_F(ManyThreads, OnASessionEachAreServedAtOnceAndLeaveNothing) {
+TEST_P(ManyThreads, OnASessionEachAreServedAtOnceAndLeaveNothing) {
   const int queries = InFullOrBrief(10'000, 100);
   OnASessionEach(1);  // the tables of handles keep the size that they had to have
   own_ = 0;
@@ -123,8 +125,9 @@ TEST_F(ManyThreads, OnASessionEachAreServedAtOnceAndLeaveNothing) {
   const Stopwatch watch;
   OnASessionEach(queries);
   const Holdings after = HeldNow();
-  std::printf("proof: sessions %d on %d threads x %d queries, %d crossed, %d failed, %s, %.1f s\n", opened_.load(),
-              kSessions, queries, crossed_.load(), failed_.load(), Growth(before, after).c_str(), watch.seconds());
+  std::printf("proof: sessions over %s %d on %d threads x %d queries, %d crossed, %d failed, %s, %.1f s\n",
+              NameOf(GetParam()), opened_.load(), kSessions, queries, crossed_.load(), failed_.load(),
+              Growth(before, after).c_str(), watch.seconds());
   EXPECT_EQ(kSessions, opened_);
   EXPECT_EQ(0, crossed_);
   EXPECT_EQ(0, failed_);
