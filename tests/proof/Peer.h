@@ -3,6 +3,7 @@
 #ifndef KVTD_TESTS_PROOF_PEER_H
 #define KVTD_TESTS_PROOF_PEER_H
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <utility>
@@ -16,26 +17,29 @@ namespace kvtd::test {
 
 class Peer {
  public:
-  explicit Peer(LinkKind link, bench::Answers answers = bench::Answers()) {
-    switch (link) {
-      case LinkKind::Hislip:
-        resource_ = ResourceOn(link, hislip_.emplace(std::move(answers)).port());
-        break;
-      case LinkKind::Vxi11:
-        resource_ = ResourceOn(link, vxi11_.emplace(std::move(answers)).port());
-        break;
-      default:
-        resource_ = ResourceOn(link, socket_.emplace(std::move(answers)).port());
-    }
-  }
+  explicit Peer(LinkKind link, bench::Answers answers = bench::Answers())
+      : port_(Listen(link, std::move(answers))), resource_(ResourceOn(link, port_)) {}
 
+  std::uint16_t port() const { return port_; }
   const std::string& ResourceName() const { return resource_; }
 
  private:
+  std::uint16_t Listen(LinkKind link, bench::Answers answers) {
+    switch (link) {
+      case LinkKind::Hislip:
+        return hislip_.emplace(std::move(answers)).port();
+      case LinkKind::Vxi11:
+        return vxi11_.emplace(std::move(answers)).port();
+      default:
+        return socket_.emplace(std::move(answers)).port();
+    }
+  }
+
   std::optional<bench::Responder> socket_;
   std::optional<bench::HislipPeer> hislip_;
   std::optional<bench::Vxi11Peer> vxi11_;
-  std::string resource_;
+  const std::uint16_t port_;
+  const std::string resource_;
 };
 
 }  // namespace kvtd::test

@@ -7,7 +7,7 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <optional>
+#include <memory>
 #include <random>
 #include <stdexcept>
 #include <string>
@@ -23,7 +23,7 @@ namespace {
 // Bound, so that nobody else gets the port (a connection that is on its way neither), and without anybody to answer.
 class RefusingPort {
  public:
-  RefusingPort() : socket_(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
+  explicit RefusingPort(LinkKind link) : link_(link), socket_(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
     sockaddr_in address{};
     address.sin_family = AF_INET;
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
@@ -32,14 +32,16 @@ class RefusingPort {
         ::getsockname(socket_.get(), reinterpret_cast<sockaddr*>(&address), &size) != 0) {
       throw std::runtime_error("no port");
     }
-    resource_ = "TCPIP0::127.0.0.1::" + std::to_string(ntohs(address.sin_port)) + "::SOCKET";
+    port_ = ntohs(address.sin_port);
   }
 
-  const std::string& ResourceName() const { return resource_; }
+  // As ResourceOn.
+  std::string ResourceName() const { return ResourceOn(link_, port_); }
 
  private:
+  const LinkKind link_;
   const Descriptor socket_;
-  std::string resource_;
+  std::uint16_t port_ = 0;
 };
 
 constexpr ViStatus kVisaNotFound = Status(0xBFFF0011U);
@@ -66,25 +68,27 @@ struct Course {
 const Course kWell = {"well", Manner::Well, "", {VI_SUCCESS}};
 const Course kSilent = {"silent", Manner::IsSilent, "", {kVisaTimeout}};
 const std::vector<Course> kCourses = {
-    {"closed at once", Manner::ClosesAtOnce, "", kLost},
-    {"reset at once", Manner::ResetsAtOnce, "", kReset},
-    {"closed when asked", Manner::ClosesWhenAsked, "", kLost},
-    {"closed within the identity", Manner::ClosesWithinIdentity, "", kLost},
     {"another model", Manner::IsAnother, "", {kIdQueryFailed}},
     {"garbage", Manner::TalksGarbage, "", {kIdQueryFailed}},
     {"an error behind *CLS", Manner::HasAnError, "QueryInstrStatus=1", {kInstrumentError}},
-    {"closed at the first unit", Manner::ClosesBehindIdentity, "QueryInstrStatus=1", kLost, Where::Instrument, true},
-    {"silent once it is open", Manner::FallsSilent, "", {VI_SUCCESS}},
     {"no such option", Manner::Well, "Nonsense=1", {kUnknownOption}},
     {"no such value", Manner::Well, "Cache=2", {kUnknownOptionValue}},
     {"a port that refuses", Manner::Well, "", {kVisaNotFound}, Where::RefusingPort},
     {"no resource name", Manner::Well, "", {kVisaInvalidName}, Where::Nowhere},
+    // Over a raw socket alone:
+    {"closed at once", Manner::ClosesAtOnce, "", kLost},
+    {"reset at once", Manner::ResetsAtOnce, "", kReset},
+    {"closed when asked", Manner::ClosesWhenAsked, "", kLost},
+    {"closed within the identity", Manner::ClosesWithinIdentity, "", kLost},
+    {"closed at the first unit", Manner::ClosesBehindIdentity, "QueryInstrStatus=1", kLost, Where::Instrument, true},
+    {"silent once it is open", Manner::FallsSilent, "", {VI_SUCCESS}},
 };
+constexpr std::size_t kCoursesOfEveryLink = 7;
 
-class Cycles : public testing::Test {
+class Cycles : public testing::TestWithParam<LinkKind> {
  protected:
   void Run(const Course& course) {
-    std::string resource = NameOf(course.where);
+    std::string resource = ResourceAt(course.where);
     instrument_->Behave(course.manner);
     ViSession vi = 77;
     const ViStatus status = KVTD481X2C_InitWithOptions(resource.data(), VI_TRUE, VI_FALSE, course.options, &vi);
@@ -96,7 +100,7 @@ class Cycles : public testing::Test {
     EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_close(vi));
   }
 
-  std::string NameOf(Where where) const {
+  std::string ResourceAt(Where where) const {
     switch (where) {
       case Where::RefusingPort:
         return refusing_.ResourceName();
@@ -117,40 +121,45 @@ class Cycles : public testing::Test {
     EXPECT_EQ(is_silent ? 0.0 : 2.5, value);
   }
 
-  // The instrument as well comes and goes, so that no connection of its last client is counted.
+  // The instrument as well comes and goes, so that no connection of its last client is counted, and before it has kept
+  // a thread for too many.
   void RunMany(int cycles) {
-    instrument_.emplace();
+    constexpr int kWithOne = 250;
+    const std::size_t courses = GetParam() == LinkKind::Socket ? kCourses.size() : kCoursesOfEveryLink;
     std::mt19937 random(1);
     for (int i = 0; i < cycles && !HasFailure(); ++i) {
+      if (i % kWithOne == 0) instrument_ = MakeFickleInstrument(GetParam());
       if (i % 2 == 0) {
         Run(kWell);
       } else {
-        Run(kCourses[random() % kCourses.size()]);
+        Run(kCourses[random() % courses]);
         ++failed_;
       }
     }
     instrument_.reset();
   }
 
-  const RefusingPort refusing_;
-  std::optional<FickleInstrument> instrument_;
+  const RefusingPort refusing_{GetParam()};
+  std::unique_ptr<FickleInstrument> instrument_;
   int failed_ = 0;
 };
 
-TEST_F(Cycles, OfWhichHalfFailSomewhereLeaveNothing) {
-  const int cycles = InFullOrBrief(100'000, 5'000);
+INSTANTIATE_TEST_SUITE_P(Links, Cycles, EveryLink(), LinkName);
+
+TEST_P(Cycles, OfWhichHalfFailSomewhereLeaveNothing) {
+  const int cycles = InFullOrBrief(100'000, 3'000);
   RunMany(1'000);
   failed_ = 0;
   const Holdings before = HeldNow();
   const Stopwatch watch;
   RunMany(cycles);
   const Holdings after = HeldNow();
-  std::printf("proof: cycles %d, %d failed on the way, %s, %.1f s\n", cycles, failed_, Growth(before, after).c_str(),
-              watch.seconds());
+  std::printf("proof: cycles over %s %d, %d failed on the way, %s, %.1f s\n", NameOf(GetParam()), cycles, failed_,
+              Growth(before, after).c_str(), watch.seconds());
   ExpectNoMore(before, after);
 }
 
-TEST_F(Cycles, ThatFailWithALongTextKeepNoneOfIt) {
+TEST(FailedOpenings, KeepNoneOfALongText) {
   const std::string options = "Cache=" + std::string(500, 'a');
   const auto fail = [&options](int times) {
     std::string resource = "TCPIP0::127.0.0.1::1::SOCKET";
@@ -167,13 +176,16 @@ TEST_F(Cycles, ThatFailWithALongTextKeepNoneOfIt) {
   ExpectNoMore(before, HeldNow());
 }
 
+class SilentCycles : public Cycles {};
+INSTANTIATE_TEST_SUITE_P(Links, SilentCycles, testing::Values(LinkKind::Socket), LinkName);
+
 // Few: the identity is waited for as long as VISA's timeout says, two seconds.
-TEST_F(Cycles, WithASilentInstrumentLeaveNothing) {
+TEST_P(SilentCycles, LeaveNothing) {
   const int cycles = InFullOrBrief(20, 1);
   RunMany(100);
   const Holdings before = HeldNow();
   const Stopwatch watch;
-  instrument_.emplace();
+  instrument_ = MakeFickleInstrument(GetParam());
   for (int i = 0; i < cycles; ++i) {
     const Stopwatch patience;
     Run(kSilent);
