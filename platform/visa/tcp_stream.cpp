@@ -120,7 +120,7 @@ void TcpStream::Adopt(int socket) {
 
 void TcpStream::PrepareConnection() {
   SetOption(socket_, IPPROTO_TCP, TCP_NODELAY, true);
-  const timeval slice{0, kSliceMilliseconds * 1000};
+  const timeval slice{0, suseconds_t{kSliceMilliseconds} * 1000};
   ::setsockopt(socket_, SOL_SOCKET, SO_RCVTIMEO, &slice, sizeof slice);
   ::setsockopt(socket_, SOL_SOCKET, SO_SNDTIMEO, &slice, sizeof slice);
 }

@@ -29,8 +29,15 @@ ViStatus FormattedInput::DiscardMessage(Deadline& deadline) {
 
 void FormattedInput::SetSize(std::size_t size) {
   Discard();
-  buffer_.resize(size);
+  MakeBuffer(size);
   size_ = size;
+}
+
+// Not filled with zeros: opening a session would take that long.
+void FormattedInput::MakeBuffer(std::size_t size) {
+  const std::size_t room = RoomOf(size);
+  buffer_ = std::make_unique_for_overwrite<char[]>(room);
+  room_ = room;
 }
 
 // One low-level read behind the unread bytes. It returns with what is there: on a link without END a full buffer might
@@ -38,14 +45,14 @@ void FormattedInput::SetSize(std::size_t size) {
 ViStatus FormattedInput::Fill() {
   if (failed_ < 0) [[unlikely]]
     return std::exchange(failed_, VI_SUCCESS);
-  if (buffer_.size() < Room()) buffer_.resize(Room());
+  if (buffer_ == nullptr) MakeBuffer(size_);
   const std::size_t unread = Unread();
-  if (unread > 0) std::memmove(buffer_.data(), next_, unread);
-  next_ = buffer_.data();
+  if (unread > 0) std::memmove(buffer_.get(), next_, unread);
+  next_ = buffer_.get();
   last_ = next_ + unread;
-  const std::size_t room = buffer_.size() - unread;
+  const std::size_t room = room_ - unread;
   if (room == 0) return VI_ERROR_ALLOC;
-  const ReadRequest request{reinterpret_cast<ViByte*>(buffer_.data() + unread), room, 1, link_.settings().Termchar()};
+  const ReadRequest request{reinterpret_cast<ViByte*>(buffer_.get() + unread), room, 1, link_.settings().Termchar()};
   std::size_t received = 0;
   const ViStatus status = link_.Read(request, *deadline_, received);
   last_ += received;

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 #include <atomic>
-#include <vector>
+#include <memory>
 
 #include "deadline.h"
 #include "format/read_stream.h"
@@ -33,9 +33,8 @@ class FormattedInput final : public ReadStream {
 
   // Reads ahead of whoever takes the bytes, who will be told how that went.
   void Fetch() { Refill(); }
-  // What a read into the empty buffer has. A byte to look ahead at must fit beside one that is looked at, however small
-  // the caller made the buffer.
-  std::size_t Room() const { return std::max<std::size_t>(size_, 4); }
+  // What a read into the empty buffer has.
+  std::size_t Room() const { return RoomOf(size_); }
 
   void FetchTerminator() override;
 
@@ -43,12 +42,16 @@ class FormattedInput final : public ReadStream {
   bool Refill() override;
   std::size_t ReadDirectly(ViByte* into, std::size_t count) override;
   ViStatus Fill();
+  void MakeBuffer(std::size_t size);
+  // A byte to look ahead at must fit beside one that is looked at, however small the caller made the buffer.
+  static std::size_t RoomOf(std::size_t size) { return std::max<std::size_t>(size, 4); }
 
   Link& link_;
   Deadline* deadline_ = nullptr;
   // Of the read that brought the bytes which are used first.
   ViStatus failed_ = VI_SUCCESS;
-  std::vector<char> buffer_;
+  std::unique_ptr<char[]> buffer_;
+  std::size_t room_ = 0;
   // Read by viGetAttribute without the session's lock.
   std::atomic<std::size_t> size_{4096};
 };
