@@ -32,7 +32,7 @@ ViStatus CreateSession(ViRsrc resource_name, bool id_query, bool reset, ViConstS
     status = session->BringUp(resource_name, id_query, reset, option_string);
   }
   if (status < 0) return status;
-  session.release();
+  static_cast<void>(session.release());  // the handle leads to it now
   owned.vi = VI_NULL;
   *vi = handle;
   return status;
