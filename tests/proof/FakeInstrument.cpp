@@ -41,6 +41,9 @@ std::optional<std::string> FakeInstrument::Ask(std::string_view line) {
   ++lines_;
   if (line.find('?') == std::string::npos) return std::nullopt;
   ++queries_;
+  asked_for_status_ = line == "*ESR?\n";
+  if (asked_for_status_) ++status_queries_;
+  if (asked_for_status_ && status_) return status_;
   if (answer_) return answer_;
   return line == "*IDN?\n" ? "Kelvora,TD48142C,SN4711,1.2.3\n" : "0\n";
 }

@@ -78,6 +78,10 @@ class FakeInstrument {
 
   // What is said to each query from now on; before, what a bring-up asks is answered.
   void Answer(std::string answer) { answer_ = std::move(answer); }
+  // The same for *ESR? by itself; before, it is a query like others.
+  void AnswerStatus(std::string status) { status_ = std::move(status); }
+  // The last query was that one.
+  bool WasAskedForStatus() const { return asked_for_status_; }
   // And what becomes of it on its way.
   void TwistAnswers(Twist twist) { twist_answer_ = std::move(twist); }
   // The same for what says that a message was taken, where the protocol has such a thing.
@@ -90,12 +94,14 @@ class FakeInstrument {
   void FallSilent() {
     twist_answer_ = twist_receipt_ = nullptr;
     endless_.clear();
+    if (status_) status_ = "0\n";
     DropAnswers();
   }
 
   // Lines and queries that came since the last time.
   int TakeLines() { return std::exchange(lines_, 0); }
   int TakeQueries() { return std::exchange(queries_, 0); }
+  int TakeStatusQueries() { return std::exchange(status_queries_, 0); }
 
  protected:
   FakeInstrument() = default;
@@ -113,11 +119,14 @@ class FakeInstrument {
   static Speeches Twisted(const Twist& twist, std::string bytes);
 
   std::optional<std::string> answer_;
+  std::optional<std::string> status_;
+  bool asked_for_status_ = false;
   Twist twist_answer_;
   Twist twist_receipt_;
   std::string endless_;
   int lines_ = 0;
   int queries_ = 0;
+  int status_queries_ = 0;
 };
 
 std::unique_ptr<FakeInstrument> MakeHislipInstrument();

@@ -86,11 +86,15 @@ void PrintTo(const Outcome& outcome, std::ostream* stream) {
           << " ms, " << outcome.exchanges << " exchanges, " << Visible(outcome.outputs);
 }
 
-Bench::Bench(LinkKind kind, ViInt32 timeout) : made_(FakeInstrument::Make(kind)), network_(made_->peers()) {
+Bench::Bench(LinkKind kind, ViInt32 timeout, Check check)
+    : made_(FakeInstrument::Make(kind)), network_(made_->peers()) {
   std::string resource = instrument.resource();
-  EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_InitWithOptions(resource.data(), VI_FALSE, VI_FALSE, "", &vi));
+  const char* const options = check == Check::kOn ? "QueryInstrStatus=1" : "";
+  EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_InitWithOptions(resource.data(), VI_FALSE, VI_FALSE, options, &vi));
   EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_SetIOTimeout(vi, timeout));
   instrument.TakeLines();
+  instrument.TakeStatusQueries();
+  if (check == Check::kOn) instrument.AnswerStatus("0\n");
 }
 
 Bench::~Bench() {
@@ -155,6 +159,12 @@ void ExpectInTime(const Call& call, const Outcome& outcome) {
 bool DropsAStatus(const Call& call) {
   return call.is("CreateFrequencyList") || call.is("CreatePowerList") || call.is("CreateFrequencyPowerList");
 }
+
+bool AsksForTheStatusItself(const Call& call) {
+  return call.is("GetStandardEventEventRegister") || call.attribute == "STANDARD_EVENT_EVENT_REGISTER";
+}
+
+bool HidesItsCheck(const Call& call) { return call.is("SelfTest") || call.is("SystemPreset"); }
 
 namespace {
 // All of this runs on one thread: the sanitizer of threads makes it slow and has little to find in it.

@@ -48,10 +48,13 @@ struct Outcome {
 };
 void PrintTo(const Outcome& outcome, std::ostream* stream);
 
+// Whether the driver asks for the instrument's status behind each exchange.
+enum class Check { kOff, kOn };
+
 // A session whose bring-up is over. When it ends, nothing may be left of it.
 class Bench {
  public:
-  explicit Bench(LinkKind kind, ViInt32 timeout = kTimeout);
+  explicit Bench(LinkKind kind, ViInt32 timeout = kTimeout, Check check = Check::kOff);
   ~Bench();
   Bench(const Bench&) = delete;
   Bench& operator=(const Bench&) = delete;
@@ -85,6 +88,10 @@ const std::vector<Subject>& Writers(LinkKind kind);
 void ExpectInTime(const Call& call, const Outcome& outcome);
 // Kept on purpose: what becomes of the first half of a list does not stop the second.
 bool DropsAStatus(const Call& call);
+// What it asks for is what the check asks for too.
+bool AsksForTheStatusItself(const Call& call);
+// Its status is that of putting a timeout back behind the check, as is told where it is described.
+bool HidesItsCheck(const Call& call);
 
 // How many cases a test has tried: a proof of nothing would pass as well. They are told in a line "proof: ...".
 class Cases {

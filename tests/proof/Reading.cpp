@@ -109,6 +109,12 @@ class Scan {
   bool has_begun_ = false;
 };
 
+ViInt32 Whole(double value) {
+  constexpr double kLeast = std::numeric_limits<ViInt32>::min();
+  constexpr double kMost = std::numeric_limits<ViInt32>::max();
+  return static_cast<ViInt32>(std::clamp(value, kLeast, kMost));
+}
+
 Expected OfNumber(Reading reading, Scan scan, std::size_t size) {
   double value = 0;
   if (const ViStatus status = scan.Number(value); status < 0) return {status, Untouched(size)};
@@ -116,9 +122,7 @@ Expected OfNumber(Reading reading, Scan scan, std::size_t size) {
   if (const ViStatus status = scan.Line(rest); status < 0) return {status, {}};
   if (reading == Reading::kReal) return {VI_SUCCESS, BytesOf<ViReal64>(value)};
   if (reading == Reading::kNumber) return {VI_SUCCESS, {}};
-  constexpr double kLeast = std::numeric_limits<ViInt32>::min();
-  constexpr double kMost = std::numeric_limits<ViInt32>::max();
-  return {VI_SUCCESS, BytesOf<ViInt32>(static_cast<ViInt32>(std::clamp(value, kLeast, kMost)))};
+  return {VI_SUCCESS, BytesOf<ViInt32>(Whole(value))};
 }
 
 Expected OfNumbers(Scan scan) {
@@ -221,6 +225,64 @@ testing::AssertionResult IsRight(const Subject& subject, const std::string& byte
   return testing::AssertionFailure() << testing::PrintToString(outcome) << "\n  in place of " << std::hex
                                      << expected.status << std::dec << " with "
                                      << Visible(expected.outputs.value_or("whatever").substr(0, 40));
+}
+
+Integer ReadInteger(const std::string& bytes, End end) {
+  Scan scan(bytes, end);
+  double value = 0;
+  ViStatus status = scan.Number(value);
+  std::string rest;
+  if (status >= 0) status = scan.Line(rest);
+  return {status, Whole(value)};
+}
+
+const std::vector<std::string>& FalseAnswers() {
+  static const std::vector<std::string> kAnswers = {"\n",
+                                                    " \n",
+                                                    "\r\n",
+                                                    "1\r\n",
+                                                    "noise 1\n",
+                                                    "-\n",
+                                                    "+\n",
+                                                    ".\n",
+                                                    "1e\n",
+                                                    "0x10\n",
+                                                    "NAN\n",
+                                                    "INF\n",
+                                                    "-INF\n",
+                                                    "9.91E37\n",
+                                                    "1E999\n",
+                                                    "-1E-999\n",
+                                                    "99999999999999999999\n",
+                                                    Literal("\0\n"),
+                                                    Literal("1\0\n"),
+                                                    Literal("\0\0\0\0\0\0\0\0"
+                                                            "1\n"),
+                                                    "\xFF\xFE\n",
+                                                    ",,,,\n",
+                                                    ";\n",
+                                                    "\"\n",
+                                                    "\"\"\"\n",
+                                                    "1,\n",
+                                                    ",1\n",
+                                                    "%s%n%d\n",
+                                                    "#\n",
+                                                    "#0\n",
+                                                    "#0abc\n",
+                                                    "#1\n",
+                                                    "#15ab\n",
+                                                    "#12abcdef\n",
+                                                    "#210abc\n",
+                                                    "#2-5abc\n",
+                                                    "#2 5abc\n",
+                                                    "#9999999999\n",
+                                                    "#:1\n",
+                                                    std::string(5000, '7') + "\n",
+                                                    std::string(5000, 'A') + "\n",
+                                                    std::string(5000, ' ') + "\n",
+                                                    std::string(5000, ',') + "\n",
+                                                    std::string(2500, '"') + std::string(2500, '0') + "\n"};
+  return kAnswers;
 }
 
 }  // namespace kvtd::test

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 #include "FaultBench.h"
 
@@ -32,9 +33,20 @@ Reading ReadingOf(const Subject& subject);
 
 // How the bytes end. Behind an open end nothing tells that nothing more will come.
 enum class End { kOfMessage, kOpen };
+inline End EndOn(LinkKind link) { return link == LinkKind::Socket ? End::kOpen : End::kOfMessage; }
 
 // That the outcome is right when each question is answered with these bytes: the status, and what is given out.
 testing::AssertionResult IsRight(const Subject& subject, const std::string& bytes, End end, const Outcome& outcome);
+
+// What an integer is read as, or the status that says why it is none.
+struct Integer {
+  ViStatus status;
+  ViInt32 value;
+};
+Integer ReadInteger(const std::string& bytes, End end);
+
+// Lines that answer no question.
+const std::vector<std::string>& FalseAnswers();
 
 }  // namespace kvtd::test
 

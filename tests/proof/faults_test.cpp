@@ -66,7 +66,11 @@ class SystemCalls : public Faults {
     for (const auto* const subjects : {&readers(), &writers()}) {
       for (const Subject& subject : *subjects) {
         SCOPED_TRACE(subject.call.name());
-        attempt(subject);
+        for (const Check check : {Check::kOff, Check::kOn}) {
+          if (check == Check::kOn && AsksForTheStatusItself(subject.call)) continue;
+          SCOPED_TRACE(check == Check::kOn ? "with a check" : "");
+          attempt(subject, check);
+        }
       }
     }
   }
@@ -74,14 +78,14 @@ class SystemCalls : public Faults {
 INSTANTIATE_TEST_SUITE_P(Links, SystemCalls, EveryLink(), LinkName);
 
 TEST_P(SystemCalls, DisturbedOnceChangeNothing) {
-  Cases cases(link(), "a system call that is disturbed", 2000);
-  Share share(5);
-  ForEachSubject([&](const Subject& subject) {
+  Cases cases(link(), "a system call that is disturbed", 1000);
+  Share share(24);
+  ForEachSubject([&](const Subject& subject, Check check) {
     for (const Failure& failure : kPassing) {
       if (!share.Next()) continue;
       AtEachSystemCall(failure, [&](const Disturbance& disturbance) {
         cases.Count();
-        Bench bench(link());
+        Bench bench(link(), kTimeout, check);
         bench.instrument.Answer(subject.answer);
         bench.instrument.TwistAnswers(Late);
         FakeNetwork::Disturb(disturbance);
@@ -95,15 +99,15 @@ TEST_P(SystemCalls, DisturbedOnceChangeNothing) {
 }
 
 TEST_P(SystemCalls, DisturbedForEverEndInTime) {
-  Cases cases(link(), "a system call that is disturbed for ever", 1000);
-  Share share(4);
-  ForEachSubject([&](const Subject& subject) {
+  Cases cases(link(), "a system call that is disturbed for ever", 800);
+  Share share(10);
+  ForEachSubject([&](const Subject& subject, Check check) {
     for (const Failure& failure : kPassing) {
       // A poll that is interrupted for ever is no wait at all.
       if (failure.call == Which::kPoll || !share.Next()) continue;
       SCOPED_TRACE(failure.name);
       cases.Count();
-      Bench bench(link());
+      Bench bench(link(), kTimeout, check);
       bench.instrument.Answer(subject.answer);
       FakeNetwork::Disturb({failure.call, 0, failure.error, true});
       const Outcome outcome = bench.Make(subject.call);
@@ -118,14 +122,14 @@ TEST_P(SystemCalls, DisturbedForEverEndInTime) {
 }
 
 TEST_P(SystemCalls, FailingAreToldByTheStatus) {
-  Cases cases(link(), "a system call that fails", 2000);
-  Share share(5);
-  ForEachSubject([&](const Subject& subject) {
+  Cases cases(link(), "a system call that fails", 1000);
+  Share share(24);
+  ForEachSubject([&](const Subject& subject, Check check) {
     for (const auto& [failure, told] : kFatal) {
       if (!share.Next()) continue;
       AtEachSystemCall(failure, [&, told = told, error = failure.error](const Disturbance& disturbance) {
         cases.Count();
-        Bench bench(link());
+        Bench bench(link(), kTimeout, check);
         bench.instrument.Answer(subject.answer);
         bench.instrument.TwistAnswers(Late);
         FakeNetwork::Disturb(disturbance);
@@ -135,7 +139,8 @@ TEST_P(SystemCalls, FailingAreToldByTheStatus) {
           EXPECT_TRUE(outcome.Same(subject.ordinary)) << testing::PrintToString(outcome);
           return false;
         }
-        EXPECT_TRUE(outcome.IsOneOf({told}) || DropsAStatus(subject.call)) << testing::PrintToString(outcome);
+        const bool hides = DropsAStatus(subject.call) || (check == Check::kOn && HidesItsCheck(subject.call));
+        EXPECT_TRUE(outcome.IsOneOf({told}) || hides) << testing::PrintToString(outcome);
         const bool lost = error == ECONNRESET || error == EPIPE || error == ETIMEDOUT;
         EXPECT_STATUS(lost ? kVisaConnectionLost : VI_SUCCESS, bench.AskAnew());
         return true;

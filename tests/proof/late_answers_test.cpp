@@ -172,7 +172,7 @@ class LateSession {
 enum class Way { kSocket, kHislip, kHislipInOverlapMode, kVxi11 };
 // In figures, and in the names of tests.
 constexpr const char* kWays[][2] = {
-    {"socket", "Socket"}, {"HiSLIP", "Hislip"}, {"HiSLIP in overlap mode", "HislipInOverlapMode"}, {"VXI-11", "Vxi11"}};
+    {"socket", "socket"}, {"HiSLIP", "hislip"}, {"HiSLIP in overlap mode", "hislip_overlap"}, {"VXI-11", "vxi11"}};
 std::string WayName(const testing::TestParamInfo<Way>& way) { return kWays[way.index][1]; }
 
 class LateAnswers : public testing::TestWithParam<Way> {
