@@ -47,7 +47,8 @@ Holdings HeldNow() {
 }
 
 void ExpectNoMoreMemory(const Holdings& before, const Holdings& after) {
-  EXPECT_LE(after.heap, before.heap + kHeapPlay);
+  // Under the sanitizer of threads one buffer of a peer, 256 KiB, is at times still counted when its thread is gone.
+  EXPECT_LE(after.heap, before.heap + (IsSanitized() ? 4 * kHeapPlay : kHeapPlay));
   if (!IsSanitized()) {
     EXPECT_LE(after.resident, before.resident + kResidentPlay);
   }

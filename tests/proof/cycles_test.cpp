@@ -147,8 +147,8 @@ class Cycles : public testing::TestWithParam<LinkKind> {
 INSTANTIATE_TEST_SUITE_P(Links, Cycles, EveryLink(), LinkName);
 
 TEST_P(Cycles, OfWhichHalfFailSomewhereLeaveNothing) {
-  const int cycles = InFullOrBrief(100'000, 3'000);
-  RunMany(1'000);
+  const int cycles = InFullOrBrief(100'000, 2'000);
+  RunMany(500);
   failed_ = 0;
   const Holdings before = HeldNow();
   const Stopwatch watch;
