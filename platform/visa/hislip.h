@@ -29,6 +29,7 @@ class HislipTransport final : public InstrTransport {
 
   ViStatus Read(const ReadRequest& request, Deadline& deadline, std::size_t& received) override;
   ViStatus Write(std::span<iovec> pieces, bool end, Deadline& deadline, std::size_t& sent) override;
+  bool MessageEndsAnswer() const override { return !overlap_; }
   ViStatus Clear(Deadline& deadline) override { return Settle(ClearInto(overlap_, deadline)); }
   void DiscardInput() override { ForgetAnswer(); }
   ViStatus ReadStatusByte(ViUInt16 protocol, Deadline& deadline, ViUInt16& status_byte) override;

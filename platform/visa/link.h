@@ -33,7 +33,11 @@ class Link {
     return status;
   }
 
+  // How many times something was written.
+  unsigned writes() const { return writes_; }
+
   ViStatus Write(std::span<iovec> pieces, bool end, Deadline& deadline, std::size_t& sent) {
+    ++writes_;
     if (trace::kOn) [[unlikely]]
       return TracedWrite(pieces, end, deadline, sent);
     return transport_->Write(pieces, end && settings_.SendEnd(), deadline, sent);
@@ -46,6 +50,7 @@ class Link {
   const Settings& settings_;
   std::unique_ptr<Transport> transport_;
   ViSession session_ = VI_NULL;
+  unsigned writes_ = 0;
 };
 
 }  // namespace tvr::visa

@@ -35,6 +35,8 @@ class Transport {
 
   // Does the protocol mark the end of a message by itself?
   virtual bool CarriesEnd() const = 0;
+  // Is what a message has left unread of an earlier answer dropped on its way here? Then nobody need wait for it.
+  virtual bool MessageEndsAnswer() const { return false; }
 
   // VI_SUCCESS: the last byte carried END. VI_SUCCESS_TERM_CHAR: the last byte is the termchar. VI_SUCCESS_MAX_CNT:
   // at least `at_least` bytes, neither of the two. On failure `received` counts the bytes that did arrive. Bytes that

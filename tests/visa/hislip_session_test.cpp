@@ -38,6 +38,21 @@ TEST_F(HislipReading, AFormattedReadTakesLineFeedsForBytesToo) {
   EXPECT_STREQ("1\n2\n", text);
 }
 
+// An answer longer than the buffer does not match; the device drops the rest of it when the next message comes.
+TEST_F(HislipReading, AQueryDoesNotWaitForTheRestOfAnAnswerThatAMessageHasEnded) {
+  ASSERT_EQ(VI_SUCCESS, viSetBuf(vi_, VI_READ_BUF, 8));
+  ASSERT_EQ(VI_SUCCESS, viSetAttribute(vi_, VI_ATTR_TMO_VALUE, 200));
+  peer_.Says(kSync, Frame("HS 06 00 FFFFFF00 0000000000000008", "nonsense"));
+  ViInt32 value = 0;
+  EXPECT_EQ(VI_ERROR_INV_FMT, viQueryf(vi_, "A?\n", "%ld%*t", &value));
+  EXPECT_EQ(VI_SUCCESS, viPrintf(vi_, "B\n"));
+  peer_.Says(kSync, Frame("HS 0D 00 FFFFFF02 0000000000000000"));
+  peer_.Says(kAsync, Frame("HS 0E 00 FFFFFF02 0000000000000000"));
+  peer_.Says(kSync, Frame("HS 07 00 FFFFFF04 0000000000000002", "3\n"));
+  EXPECT_EQ(VI_SUCCESS, viQueryf(vi_, "C?\n", "%ld%*t", &value));
+  EXPECT_EQ(3, value);
+}
+
 TEST_F(HislipReading, NoTerminationCharacterIsAddedToWhatIsWritten) {
   EXPECT_EQ(VI_SUCCESS, viWrite(vi_, reinterpret_cast<ViConstBuf>("*CLS"), 4, nullptr));
   peer_.Hears(kSync, Frame("HS 07 00 FFFFFF00 0000000000000004", "*CLS"));

@@ -12,7 +12,8 @@ void FormattedInput::Discard() {
 }
 
 ViStatus FormattedInput::DiscardMessage(Deadline& deadline) {
-  const bool goes_on = next_ != last_ && final_ == Final::kNot && link_.KnowsEnd();
+  const bool ended_by_message = link_.transport().MessageEndsAnswer() && link_.writes() != writes_before_;
+  const bool goes_on = next_ != last_ && final_ == Final::kNot && link_.KnowsEnd() && !ended_by_message;
   Discard();
   if (!goes_on) return VI_SUCCESS;
   BeginCall(deadline);
@@ -55,6 +56,7 @@ ViStatus FormattedInput::Fill() {
   const ReadRequest request{reinterpret_cast<ViByte*>(buffer_.get() + unread), room, 1, link_.settings().Termchar()};
   std::size_t received = 0;
   const ViStatus status = link_.Read(request, *deadline_, received);
+  writes_before_ = link_.writes();
   last_ += received;
   final_ = status == VI_SUCCESS ? Final::kEnd : status == VI_SUCCESS_TERM_CHAR ? Final::kTermchar : Final::kNot;
   if (received == 0) return status;

@@ -52,6 +52,7 @@ class FormattedInput final : public ReadStream {
   ViStatus failed_ = VI_SUCCESS;
   std::unique_ptr<char[]> buffer_;
   std::size_t room_ = 0;
+  unsigned writes_before_ = 0;  // what the buffer was filled with
   // Read by viGetAttribute without the session's lock.
   std::atomic<std::size_t> size_{4096};
 };
