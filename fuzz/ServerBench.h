@@ -5,7 +5,6 @@
 #pragma once
 
 #include <array>
-#include <asio/io_context.hpp>
 #include <asio/post.hpp>
 #include <chrono>
 #include <cstdint>
@@ -16,6 +15,7 @@
 #include "Input.h"
 #include "LoopbackClient.h"
 #include "Require.h"
+#include "ServedLoop.h"
 #include "link/services.h"
 #include "model/instrument.h"
 
@@ -24,7 +24,7 @@ namespace kvtd::fuzz {
 template <class Server>
 class ServerBench : public siggen::link::Services {
  public:
-  asio::io_context& io() override { return io_; }
+  asio::io_context& io() override { return loop_.io(); }
   siggen::model::Instrument& instrument() override { return instrument_; }
   siggen::link::FaultPlan& faults() override { return faults_; }
   siggen::link::Locks& locks() override { return locks_; }
@@ -32,12 +32,12 @@ class ServerBench : public siggen::link::Services {
   void Worked() override {
     instrument_.CatchUp();
     if (instrument_.TakePowerEvent() != siggen::model::PowerEvent::kNone) {
-      asio::post(io_, [this] { server_.CloseClients(); });
+      asio::post(io(), [this] { server_.CloseClients(); });
     }
     server_.StatusChanged();
     if (instrument_.operations_pending()) return;
     server_.ForEachLink([this](const std::shared_ptr<siggen::link::Link>& link) {
-      if (link->waiting()) asio::post(io_, [link] { link->Pump(); });
+      if (link->waiting()) asio::post(io(), [link] { link->Pump(); });
     });
   }
 
@@ -66,20 +66,8 @@ class ServerBench : public siggen::link::Services {
     Serve();
     return *clients_.back();
   }
-  void Serve() {
-    io_.restart();
-    io_.poll();
-  }
-  // What is owed for certain.
-  std::string Await(Client& client, std::size_t size) {
-    std::string answer;
-    for (int patience = 0; answer.size() < size && patience < 100; ++patience) {
-      Serve();
-      answer += client.Receive();
-      if (answer.size() < size) client.AwaitReadable();
-    }
-    return answer;
-  }
+  void Serve() { loop_.Serve(); }
+  std::string Await(Client& client, std::size_t size) { return loop_.Await(client, size); }
   void PassASecond() {
     now_ += std::chrono::seconds(1);
     Worked();
@@ -103,11 +91,11 @@ class ServerBench : public siggen::link::Services {
     Serve();
   }
 
-  asio::io_context io_;
+  ServedLoop loop_;
   siggen::model::Instant now_{};
   siggen::model::Instrument instrument_{siggen::model::Identity{}, [this] { return now_; }, siggen::model::WallTime{}};
   siggen::link::FaultPlan faults_;
-  siggen::link::Locks locks_{io_, [this] { server_.LocksChanged(); }};
+  siggen::link::Locks locks_{loop_.io(), [this] { server_.LocksChanged(); }};
   Server server_{*this, "127.0.0.1", 0};
 };
 

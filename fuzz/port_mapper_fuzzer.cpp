@@ -5,13 +5,13 @@
 
 #include "link/port_mapper.h"
 
-#include <asio/io_context.hpp>
 #include <memory>
 #include <vector>
 
 #include "Input.h"
 #include "LoopbackClient.h"
 #include "Require.h"
+#include "ServedLoop.h"
 #include "Xdr.h"
 
 namespace kvtd::fuzz {
@@ -103,27 +103,19 @@ class Bench {
             "the next client is told the port");
   }
   std::string Await(Client& client, std::size_t size) {
-    std::string answer;
-    for (int patience = 0; answer.size() < size && patience < 100; ++patience) {
-      Serve();
-      answer += client.Receive();
-      if (answer.size() < size) client.AwaitReadable();
-    }
+    const std::string answer = loop_.Await(client, size);
     Require(answer.size() == size, "the next client is answered");
     return answer;
   }
 
-  void Serve() {
-    io_.restart();
-    io_.poll();
-  }
+  void Serve() { loop_.Serve(); }
   void Leave() {
     clients_.clear();
     Serve();
   }
 
-  asio::io_context io_;
-  siggen::link::PortMapper mapper_{io_, "127.0.0.1", 0, kKnown};
+  ServedLoop loop_;
+  siggen::link::PortMapper mapper_{loop_.io(), "127.0.0.1", 0, kKnown};
   std::vector<std::unique_ptr<Client>> clients_;
 };
 

@@ -71,12 +71,13 @@ class RecordStream {
   static bool_t GetLong(XDR* xdr, long* value);
   static bool_t GetBytes(XDR* xdr, char* into, u_int count);
 
+  static constexpr std::size_t kFewPieces = 4;
+
   std::size_t Buffered() const { return end_ - begin_; }
   ViStatus Fill(std::size_t at_least, Deadline& deadline);
   ViStatus NextFragment(Deadline& deadline);
 
   TcpStream stream_;
-  static constexpr std::size_t kFewPieces = 4;
   std::vector<iovec> gather_;
   bool sent_in_part_ = false;
 

@@ -12,7 +12,6 @@
 #include "common/Exports.h"
 #include "common/TextBuffer.h"
 #include "config/HandleTable.h"
-#include "config/StoreSource.h"
 
 namespace tvrivi {
 
@@ -51,7 +50,7 @@ class Operation {
   ViStatus FailForProperty(ViInt32 property, const char* type) const noexcept;
   ViStatus FailForNull() const noexcept { return Fail(IVI_ERROR_NULL_POINTER, "an argument is a null pointer"); }
 
-  /// Runs work and turns exceptions into a status; a store that is no good is failure.
+  /// Runs work and turns exceptions into a status: failure, but for the end of memory.
   template <typename Work>
   ViStatus Run(ViStatus failure, Work work) const noexcept {
     try {

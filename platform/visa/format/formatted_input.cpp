@@ -12,7 +12,7 @@ void FormattedInput::Discard() {
 }
 
 ViStatus FormattedInput::DiscardMessage(Deadline& deadline) {
-  const bool ended_by_message = link_.transport().MessageEndsAnswer() && link_.writes() != writes_before_;
+  const bool ended_by_message = link_.transport().MessageEndsAnswer() && link_.writes() != writes_at_fill_;
   const bool goes_on = next_ != last_ && final_ == Final::kNot && link_.KnowsEnd() && !ended_by_message;
   Discard();
   if (!goes_on) return VI_SUCCESS;
@@ -30,15 +30,13 @@ ViStatus FormattedInput::DiscardMessage(Deadline& deadline) {
 
 void FormattedInput::SetSize(std::size_t size) {
   Discard();
-  MakeBuffer(size);
+  buffer_ = MakeBuffer(size);
   size_ = size;
 }
 
-// Not filled with zeros: opening a session would take that long.
-void FormattedInput::MakeBuffer(std::size_t size) {
-  const std::size_t room = RoomOf(size);
-  buffer_ = std::make_unique_for_overwrite<char[]>(room);
-  room_ = room;
+// Not filled with zeros: opening a session would take that much longer.
+std::unique_ptr<char[]> FormattedInput::MakeBuffer(std::size_t size) {
+  return std::make_unique_for_overwrite<char[]>(RoomOf(size));
 }
 
 // One low-level read behind the unread bytes. It returns with what is there: on a link without END a full buffer might
@@ -46,17 +44,17 @@ void FormattedInput::MakeBuffer(std::size_t size) {
 ViStatus FormattedInput::Fill() {
   if (failed_ < 0) [[unlikely]]
     return std::exchange(failed_, VI_SUCCESS);
-  if (buffer_ == nullptr) MakeBuffer(size_);
+  if (buffer_ == nullptr) buffer_ = MakeBuffer(size_);
   const std::size_t unread = Unread();
   if (unread > 0) std::memmove(buffer_.get(), next_, unread);
   next_ = buffer_.get();
   last_ = next_ + unread;
-  const std::size_t room = room_ - unread;
+  const std::size_t room = Room() - unread;
   if (room == 0) return VI_ERROR_ALLOC;
   const ReadRequest request{reinterpret_cast<ViByte*>(buffer_.get() + unread), room, 1, link_.settings().Termchar()};
   std::size_t received = 0;
   const ViStatus status = link_.Read(request, *deadline_, received);
-  writes_before_ = link_.writes();
+  writes_at_fill_ = link_.writes();
   last_ += received;
   final_ = status == VI_SUCCESS ? Final::kEnd : status == VI_SUCCESS_TERM_CHAR ? Final::kTermchar : Final::kNot;
   if (received == 0) return status;

@@ -42,7 +42,7 @@ class FormattedInput final : public ReadStream {
   bool Refill() override;
   std::size_t ReadDirectly(ViByte* into, std::size_t count) override;
   ViStatus Fill();
-  void MakeBuffer(std::size_t size);
+  static std::unique_ptr<char[]> MakeBuffer(std::size_t size);
   // A byte to look ahead at must fit beside one that is looked at, however small the caller made the buffer.
   static std::size_t RoomOf(std::size_t size) { return std::max<std::size_t>(size, 4); }
 
@@ -50,9 +50,8 @@ class FormattedInput final : public ReadStream {
   Deadline* deadline_ = nullptr;
   // Of the read that brought the bytes which are used first.
   ViStatus failed_ = VI_SUCCESS;
-  std::unique_ptr<char[]> buffer_;
-  std::size_t room_ = 0;
-  unsigned writes_before_ = 0;  // what the buffer was filled with
+  std::unique_ptr<char[]> buffer_;  // of Room() bytes, from the first read on
+  unsigned writes_at_fill_ = 0;
   // Read by viGetAttribute without the session's lock.
   std::atomic<std::size_t> size_{4096};
 };
