@@ -82,9 +82,8 @@ ViStatus WriteWord(ViSession vi, const char* command, const EnumMap& words, ViIn
 
 }  // namespace
 
-ViStatus CheckAttributeValue(ViSession vi, const char* attribute_name, const void* value) {
-  if (value != nullptr) return VI_SUCCESS;
-  return CheckNullParameters(vi, GetterName(attribute_name).c_str(), "AttributeValue", {value});
+ViStatus RefuseNullAttributeValue(ViSession vi, const char* attribute_name) {
+  return CheckNullParameters(vi, GetterName(attribute_name).c_str(), "AttributeValue", {nullptr});
 }
 
 ViStatus RefuseValue(ViSession vi, const EnumMap& names, ViInt32 value, const char* attribute) {

@@ -25,7 +25,10 @@ ViStatus GetValue(const ForwardRow& row, ViSession vi, ViReal64* value);
 ViStatus SetValue(const ForwardRow& row, ViSession vi, ViReal64 value);
 
 // The null check of an attribute's getter, under the getter's name and "AttributeValue".
-ViStatus CheckAttributeValue(ViSession vi, const char* attribute_name, const void* value);
+ViStatus RefuseNullAttributeValue(ViSession vi, const char* attribute_name);
+inline ViStatus CheckAttributeValue(ViSession vi, const char* attribute_name, const void* value) {
+  return value != nullptr ? VI_SUCCESS : RefuseNullAttributeValue(vi, attribute_name);
+}
 
 // Refuses a value that a class attribute has no way to honour, under its public name or its digits.
 ViStatus RefuseValue(ViSession vi, const EnumMap& names, ViInt32 value, const char* attribute);
