@@ -19,8 +19,8 @@ constexpr std::string_view kSpace = " \t\n\r\v\f";
 // The range parser has a back reference, and the library matches those by recursion. No name is nearly as long.
 constexpr std::size_t kLongestRange = 1024;
 
-// More names than any instrument has; keeps a range over all of 32 bits from taking all memory.
-constexpr ViInt64 kMostNames = 1'000'000;
+// More names than any instrument has; keeps the ranges of a selector from taking all memory, and minutes.
+constexpr ViInt64 kMostNames = 65'536;
 
 #ifdef __GLIBCXX__
 constexpr auto kGrammar = std::regex::ECMAScript | std::regex::icase | std::regex_constants::__polynomial;
@@ -117,10 +117,11 @@ ViStatus RepeatedCapability::ExpandSelector(ViSession vi, ViConstString selector
 
   const std::vector<std::string> levels = SplitString(text, ':', true);
   std::vector<std::string> names;
+  ViInt64 room = kMostNames;
   bool empty_level = false;  // a bracket without its fellow can leave one; nothing can be joined with it
   for (const std::string& level : levels) {
     names.clear();
-    if (const ViStatus status = ExpandLevel(vi, level, names); status < 0) return status;
+    if (const ViStatus status = ExpandLevel(vi, level, room, names); status < 0) return status;
     empty_level = empty_level || names.empty();
   }
   if (empty_level) return VI_SUCCESS;
@@ -156,7 +157,8 @@ ViStatus RepeatedCapability::ExpandEmpty(ViSession vi, std::vector<RepCapIdentif
                         name_.c_str(), name_.c_str(), static_cast<int>(names.size()));
 }
 
-ViStatus RepeatedCapability::ExpandLevel(ViSession vi, std::string_view level, std::vector<std::string>& names) const {
+ViStatus RepeatedCapability::ExpandLevel(ViSession vi, std::string_view level, ViInt64& room,
+                                         std::vector<std::string>& names) const {
   if (!level.empty() && level.front() == '[') {
     level.remove_prefix(1);
     if (!level.empty()) level.remove_suffix(1);
@@ -166,7 +168,7 @@ ViStatus RepeatedCapability::ExpandLevel(ViSession vi, std::string_view level, s
     const bool is_range = token.find('-') != std::string::npos;
     std::vector<std::string> expanded;
     if (is_range) {
-      if (const ViStatus status = ExpandRange(vi, token, expanded); status < 0) return status;
+      if (const ViStatus status = ExpandRange(vi, token, room, expanded); status < 0) return status;
     } else {
       expanded.push_back(token);
     }
@@ -185,7 +187,7 @@ ViStatus RepeatedCapability::ExpandLevel(ViSession vi, std::string_view level, s
   return VI_SUCCESS;
 }
 
-ViStatus RepeatedCapability::ExpandRange(ViSession vi, const std::string& token,
+ViStatus RepeatedCapability::ExpandRange(ViSession vi, const std::string& token, ViInt64& room,
                                          std::vector<std::string>& names) const {
   const auto refuse = [&](const char* why) {
     return RaiseErrorText(vi, error::kInvalidRangeInSelector, why, token.c_str(), name_.c_str());
@@ -199,7 +201,9 @@ ViStatus RepeatedCapability::ExpandRange(ViSession vi, const std::string& token,
     return refuse("An index is too large.");
   }
   if (start >= end) return refuse("The start index must be less than the end index.");
-  if (ViInt64{end} - start >= kMostNames) return refuse("The range has too many names.");
+  const ViInt64 count = ViInt64{end} - start + 1;
+  if (count > room) return refuse("The range has too many names.");
+  room -= count;
   for (ViInt64 i = start; i <= end; ++i) names.push_back(match[1].str() + std::to_string(i));
   return VI_SUCCESS;
 }

@@ -39,8 +39,9 @@ class RepeatedCapability {
 
  private:
   ViStatus ExpandEmpty(ViSession vi, std::vector<RepCapIdentifier>& output) const;
-  ViStatus ExpandLevel(ViSession vi, std::string_view level, std::vector<std::string>& names) const;
-  ViStatus ExpandRange(ViSession vi, const std::string& token, std::vector<std::string>& names) const;
+  // `room` is how many names the ranges that are still to come may have.
+  ViStatus ExpandLevel(ViSession vi, std::string_view level, ViInt64& room, std::vector<std::string>& names) const;
+  ViStatus ExpandRange(ViSession vi, const std::string& token, ViInt64& room, std::vector<std::string>& names) const;
   RepCapIdentifier Identifier(const std::string& name) const;
 
   std::string name_;

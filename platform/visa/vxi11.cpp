@@ -21,7 +21,8 @@ constexpr ViUInt32 kAbortPause = 20;
 constexpr ViUInt32 kProbePatience = 250;
 constexpr ViUInt32 kProbeShare = 8;
 constexpr ViUInt32 kFarewellPatience = 100;
-constexpr ViUInt32 kOnTheWay = 50;
+// For a reply behind the time that the device was given. A query has two, and may not be late by 100 ms.
+constexpr ViUInt32 kOnTheWay = 40;
 // Names this client in the device's lists, and nothing else.
 constexpr int kClientId = ('T' << 8) | 'V';
 

@@ -1,6 +1,8 @@
 // A question that goes with its read in one send, and what becomes of the read when the question fails.
 #include <algorithm>
+#include <chrono>
 #include <future>
+#include <thread>
 
 #include "vxi11_peer.h"
 
@@ -262,6 +264,22 @@ TEST_F(Vxi11Query, ADeviceThatAnswersNeitherCallIsATimeoutAndAskedOneByOneFromTh
   peer_.Says(kAbort, Reply(1, "00000000"));
   peer_.Says(kCore, Written(2) + Answered(3, "no"));
   ExpectUsableOneByOne(4);
+}
+
+// Each of the two calls is given a moment more than the device, for its reply to come; both together must be within
+// what a caller allows.
+TEST_F(Vxi11Query, TwoCallsThatAreLateDoNotStretchTheTimeoutByMoreThanOneIs) {
+  auto device = std::async(std::launch::async, [&] {
+    peer_.Next(kCore, 136);
+    std::this_thread::sleep_for(std::chrono::milliseconds(147));
+    peer_.Offers(kCore, Written(2));
+  });
+  const Stopwatch watch;
+  EXPECT_EQ("", Query("A?", 100));
+  EXPECT_EQ(VI_ERROR_TMO, status_);
+  EXPECT_GE(watch.Milliseconds(), 100);
+  EXPECT_LT(watch.OwnMilliseconds(), 200);
+  device.get();
 }
 
 TEST_F(Vxi11Query, RepliesInTheWrongOrderAreATimeoutAndAskedForOneByOneFromThenOn) {

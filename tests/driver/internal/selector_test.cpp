@@ -344,6 +344,15 @@ TEST_F(Selectors, AHundredKilobytesAreAnsweredInGoodTime) {
   EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(60));
 }
 
+TEST_F(Selectors, TheRangesOfASelectorHaveSoManyNamesTogetherAndNoMore) {
+  EXPECT_EQ(65'536U, Expand("0-65535").size());
+  EXPECT_EQ(65'536U, Expand("a1-a65534,b1-b2").size());
+  ExpectInvalidRange("The range has too many names.", "0-65536", "0-65536");
+  ExpectInvalidRange("The range has too many names.", "0-2147483647", "0-2147483647");
+  ExpectInvalidRange("The range has too many names.", "b1-b3", "a1-a65534,b1-b3");
+  ExpectInvalidRange("The range has too many names.", "b1-b3", "a1-a65534:b1-b3");
+}
+
 TEST_F(Selectors, ARangeOfAHundredNamesExpandsWhole) {
   const Names names = Expand("n901-n1000");
   ASSERT_EQ(100U, names.size());
