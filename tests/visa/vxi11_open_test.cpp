@@ -134,6 +134,11 @@ TEST_F(Vxi11Opening, AttributesTellWhoTheDeviceIs) {
   EXPECT_EQ(VI_ERROR_NSUP_ATTR, link_->SetAttribute(VI_ATTR_TCPIP_NODELAY, VI_TRUE, 2000));
   EXPECT_EQ(VI_ERROR_ATTR_READONLY, link_->SetAttribute(VI_ATTR_TCPIP_DEVICE_NAME, 0, 2000));
   EXPECT_EQ(VI_ERROR_NSUP_ATTR_STATE, link_->SetAttribute(VI_ATTR_SUPPRESS_END_EN, 2, 2000));
+  EXPECT_EQ(VI_SUCCESS, link_->SetAttribute(VI_ATTR_SUPPRESS_END_EN, VI_TRUE, 2000));
+  EXPECT_EQ(VI_SUCCESS, link_->GetAttribute(VI_ATTR_SUPPRESS_END_EN, &on));
+  EXPECT_EQ(VI_TRUE, on);
+  EXPECT_EQ(VI_SUCCESS, link_->SetAttribute(VI_ATTR_TRIG_ID, VI_TRIG_SW, 2000));
+  EXPECT_EQ(VI_ERROR_NSUP_ATTR_STATE, link_->SetAttribute(VI_ATTR_TRIG_ID, 0, 2000));
 }
 
 // The port mapper is a server like others, and here it listens where a test may.
