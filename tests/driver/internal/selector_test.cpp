@@ -2,9 +2,8 @@
 
 #include <RepeatedCapability.h>
 
-#include <chrono>
-
 #include "BareSession.h"
+#include "Stopwatch.h"
 
 namespace kvtd::test {
 namespace {
@@ -320,7 +319,7 @@ TEST_F(Selectors, AReplacementIsNotReplacedAgain) {
 // Size.
 
 TEST_F(Selectors, AHundredKilobytesAreAnsweredInGoodTime) {
-  const auto begin = std::chrono::steady_clock::now();
+  const Stopwatch watch;
   std::vector<tvr::RepCapIdentifier> output;
 
   const std::string name(100'000, 'a');
@@ -341,7 +340,7 @@ TEST_F(Selectors, AHundredKilobytesAreAnsweredInGoodTime) {
   while (levels.size() < 100'000) levels += ":a";
   EXPECT_EQ(kWrongLevels, generators.ExpandSelector(vi, levels.c_str(), output, false));
 
-  EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(60));
+  EXPECT_LT(watch.OwnMilliseconds(), 60'000);
 }
 
 TEST_F(Selectors, TheRangesOfASelectorHaveSoManyNamesTogetherAndNoMore) {
