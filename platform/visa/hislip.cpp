@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "big_endian.h"
 #include "text_out.h"
 
 namespace tvr::visa::hislip {
@@ -89,7 +90,7 @@ ViStatus HislipTransport::AwaitSynchronous(Type wanted, Deadline& deadline, Head
 ViStatus HislipTransport::AgreeOnMessageSize(ViUInt32 kilobytes, Deadline& deadline) {
   const ViUInt64 largest = ViUInt64{kilobytes} * 1024;
   std::array<ViByte, 8> bytes;
-  for (std::size_t i = 0; i < bytes.size(); ++i) bytes[i] = static_cast<ViByte>(largest >> (56 - 8 * i));
+  PutBigEndian(bytes.data(), largest);
   const iovec piece = PieceOf(bytes.data(), bytes.size());
   AsyncChannel::Answer answer;
   const ViStatus status =

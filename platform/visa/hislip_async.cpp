@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "big_endian.h"
+
 namespace tvr::visa::hislip {
 namespace {
 
@@ -115,7 +117,7 @@ ViStatus AsyncChannel::ReadNumber(Deadline& deadline, ViUInt64& number) {
   if (const ViStatus status = channel_.ReadPayload(bytes.data(), bytes.size(), deadline, received); status < 0) {
     return status;
   }
-  for (const ViByte byte : bytes) number = number << 8 | byte;
+  number = BigEndian64(bytes.data());
   return VI_SUCCESS;
 }
 

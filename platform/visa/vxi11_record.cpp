@@ -4,20 +4,12 @@
 #include <array>
 #include <cstring>
 
+#include "big_endian.h"
+
 namespace tvr::visa::vxi11 {
 namespace {
 
 constexpr ViUInt32 kLastFragment = 0x80000000;
-
-void PutNumber(ViByte* out, ViUInt32 number) {
-  for (int i = 3; i >= 0; --i, number >>= 8) out[i] = static_cast<ViByte>(number & 0xFF);
-}
-
-ViUInt32 Number(const ViByte* in) {
-  ViUInt32 number = 0;
-  for (int i = 0; i < 4; ++i) number = number << 8 | in[i];
-  return number;
-}
 
 }  // namespace
 
@@ -35,7 +27,7 @@ void RecordStream::Add(std::span<ViByte> head, std::span<const iovec> data) {
   const std::size_t padding = RNDUP(data_length) - data_length;
   if (padding > 0) gather_.push_back({const_cast<ViByte*>(kZeros.data()), padding});
   const std::size_t length = head.size() - kMarkSize + data_length + padding;
-  PutNumber(head.data(), kLastFragment | static_cast<ViUInt32>(length));
+  PutBigEndian(head.data(), kLastFragment | static_cast<ViUInt32>(length));
 }
 
 ViStatus RecordStream::Send(Deadline& deadline) {
@@ -69,7 +61,7 @@ ViStatus RecordStream::NextFragment(Deadline& deadline) {
   if (Buffered() < kMarkSize) {
     if (const ViStatus status = Fill(kMarkSize - Buffered(), deadline); status < 0) return status;
   }
-  const ViUInt32 mark = Number(buffer_.data() + begin_);
+  const ViUInt32 mark = BigEndian32(buffer_.data() + begin_);
   begin_ += kMarkSize;
   last_fragment_ = (mark & kLastFragment) != 0;
   fragment_left_ = mark & ~kLastFragment;
@@ -138,7 +130,7 @@ bool_t RecordStream::GetBytes(XDR* xdr, char* into, u_int count) {
 bool_t RecordStream::GetLong(XDR* xdr, long* value) {
   std::array<char, BYTES_PER_XDR_UNIT> unit;
   if (GetBytes(xdr, unit.data(), unit.size()) == FALSE) return FALSE;
-  *value = static_cast<long>(Number(reinterpret_cast<const ViByte*>(unit.data())));
+  *value = static_cast<long>(BigEndian32(reinterpret_cast<const ViByte*>(unit.data())));
   return TRUE;
 }
 
