@@ -12,25 +12,25 @@ namespace {
 
 // Matching without recursion where the library offers it: an option string may be as long as the caller likes.
 #ifdef __GLIBCXX__
-constexpr auto kGrammar = std::regex::ECMAScript | std::regex::optimize | std::regex_constants::__polynomial;
+constexpr auto kOptionGrammar = std::regex::ECMAScript | std::regex::optimize | std::regex_constants::__polynomial;
 #else
-constexpr auto kGrammar = std::regex::ECMAScript | std::regex::optimize;
+constexpr auto kOptionGrammar = std::regex::ECMAScript | std::regex::optimize;
 #endif
 
 // Blanks in front of the word are left to the inherent options, which skip them. Taken into the pattern, a run of them
 // would be searched anew from each of its blanks.
 const std::regex& DriverSetupPattern() {
-  static const std::regex pattern(R"(DriverSetup\s*=(.*))", kGrammar | std::regex::icase);
+  static const std::regex pattern(R"(DriverSetup\s*=(.*))", kOptionGrammar | std::regex::icase);
   return pattern;
 }
 
 const std::regex& DriverSetupOptionPattern() {
-  static const std::regex pattern(R"(([\w+_]+)\s*(?:=|:)\s*([^,]+))", kGrammar);
+  static const std::regex pattern(R"(([\w+_]+)\s*(?:=|:)\s*([^,]+))", kOptionGrammar);
   return pattern;
 }
 
 const std::regex& InherentOptionPattern() {
-  static const std::regex pattern(R"(\s*(\w+)\s*=\s*(\w+)\s*,?)", kGrammar);
+  static const std::regex pattern(R"(\s*(\w+)\s*=\s*(\w+)\s*,?)", kOptionGrammar);
   return pattern;
 }
 

@@ -23,9 +23,9 @@ constexpr std::size_t kLongestRange = 1024;
 constexpr ViInt64 kMostNames = 65'536;
 
 #ifdef __GLIBCXX__
-constexpr auto kGrammar = std::regex::ECMAScript | std::regex::icase | std::regex_constants::__polynomial;
+constexpr auto kSelectorGrammar = std::regex::ECMAScript | std::regex::icase | std::regex_constants::__polynomial;
 #else
-constexpr auto kGrammar = std::regex::ECMAScript | std::regex::icase;
+constexpr auto kSelectorGrammar = std::regex::ECMAScript | std::regex::icase;
 #endif
 
 const std::regex& SelectorPattern() {
@@ -34,7 +34,7 @@ const std::regex& SelectorPattern() {
     const std::string range = R"((?:\s*[\w_!]*?[0-9]+\s*-\s*[\w_!]*?[0-9]+))";
     const std::string item = range + "|" + identifier;
     const std::string level = "(?:" + item + R"()(?:\s*,(?:)" + item + "))*";
-    return std::regex(R"(^(?:\s*\[?)" + level + R"(\s*\]?)(?:\s*:\s*\[?)" + level + R"(\s*\]?)*$)", kGrammar);
+    return std::regex(R"(^(?:\s*\[?)" + level + R"(\s*\]?)(?:\s*:\s*\[?)" + level + R"(\s*\]?)*$)", kSelectorGrammar);
   }();
   return pattern;
 }
@@ -46,7 +46,7 @@ const std::regex& RangePattern() {
 }
 
 const std::regex& TokenPattern() {
-  static const std::regex pattern(R"([\w_!]+)", kGrammar);
+  static const std::regex pattern(R"([\w_!]+)", kSelectorGrammar);
   return pattern;
 }
 

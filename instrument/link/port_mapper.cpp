@@ -13,7 +13,7 @@ using asio::ip::udp;
 namespace {
 
 constexpr std::size_t kMostClients = 32;
-constexpr std::size_t kLongestRecord = 1024;
+constexpr std::size_t kLongestCall = 1024;
 constexpr std::size_t kRoomForList = 128;
 
 pmap Entry(std::uint32_t program, std::uint32_t version, int protocol, std::uint16_t port) {
@@ -66,8 +66,7 @@ void PortMapper::Close() {
 
 void PortMapper::Take(tcp::socket socket) {
   if (clients_.size() >= kMostClients) return;
-  const auto client =
-      std::make_shared<Client>(*this, std::make_shared<rpc::Channel>(std::move(socket), kLongestRecord));
+  const auto client = std::make_shared<Client>(*this, std::make_shared<rpc::Channel>(std::move(socket), kLongestCall));
   clients_.insert(client);
   client->Start();
 }

@@ -1,9 +1,10 @@
 #include "resource_lock.h"
 
-#include <algorithm>
 #include <chrono>
 #include <map>
 #include <random>
+
+#include "ascii.h"
 
 namespace tvr::visa {
 namespace {
@@ -21,12 +22,9 @@ std::string NewKey() {
 std::shared_ptr<ResourceLock> ResourceLock::Of(const std::string& canonical_name) {
   static std::mutex guard;
   static std::map<std::string, std::weak_ptr<ResourceLock>> locks;
-  std::string name = canonical_name;
-  std::transform(name.begin(), name.end(), name.begin(),
-                 [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
   const std::lock_guard hold(guard);
   std::erase_if(locks, [](const auto& entry) { return entry.second.expired(); });
-  auto& known = locks[name];
+  auto& known = locks[Upper(canonical_name)];
   auto lock = known.lock();
   if (lock == nullptr) known = lock = std::make_shared<ResourceLock>();
   return lock;

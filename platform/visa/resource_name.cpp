@@ -6,6 +6,8 @@
 #include <optional>
 #include <vector>
 
+#include "ascii.h"
+
 namespace tvr::visa {
 namespace {
 
@@ -13,20 +15,6 @@ constexpr std::size_t kLongestHost = 253;
 constexpr ViUInt16 kHislipPort = 4880;
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-char Upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
-
-std::string Upper(std::string_view text) {
-  std::string upper(text);
-  std::transform(upper.begin(), upper.end(), upper.begin(), [](char c) { return Upper(c); });
-  return upper;
-}
-
-std::string Lower(std::string_view text) {
-  std::string lower(text);
-  std::transform(lower.begin(), lower.end(), lower.begin(),
-                 [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
-  return lower;
-}
 
 std::optional<ViUInt16> Number(std::string_view text) {
   ViUInt16 number = 0;
@@ -122,7 +110,7 @@ bool TakeDevice(std::string_view text, ResourceName& name) {
     return IsDigit(c) || (Upper(c) >= 'A' && Upper(c) <= 'Z') || c == '_';
   });
   if (!plausible) return false;
-  name.hislip = Lower(device.substr(0, 6)) == "hislip";
+  name.hislip = Upper(device.substr(0, 6)) == "HISLIP";
   if (!name.hislip) {
     name.device_name = text;
     const std::string_view suffix = comma == std::string_view::npos ? "" : text.substr(comma);

@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "ascii.h"
 #include "attribute_condition.h"
 
 namespace tvr::visa {
@@ -10,7 +11,6 @@ namespace {
 // No more than this is read of an expression; it also bounds how deep groups can be in each other.
 constexpr std::size_t kLongest = 1024;
 
-char Upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
 std::size_t IndexOf(char c) { return static_cast<unsigned char>(Upper(c)); }
 
 }  // namespace

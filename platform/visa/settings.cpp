@@ -16,14 +16,14 @@ bool Protocol(ViUInt64 value) { return value >= VI_PROT_NORMAL && value <= VI_PR
 bool ReadMode(ViUInt64 value) { return value == VI_FLUSH_ON_ACCESS || value == VI_FLUSH_DISABLE; }
 bool WriteMode(ViUInt64 value) { return value == VI_FLUSH_ON_ACCESS || value == VI_FLUSH_WHEN_FULL; }
 
-struct Row {
+struct Setting {
   ViAttr attribute;
   unsigned width;  // bytes
   ViUInt64 initial;
   Allowed allowed;
 };
 
-constexpr std::array<Row, Settings::kCount> kRows{{
+constexpr std::array<Setting, Settings::kCount> kSettings{{
     {VI_ATTR_TMO_VALUE, 4, 2000, Bits32},
     {VI_ATTR_TERMCHAR, 1, '\n', Octet},
     {VI_ATTR_TERMCHAR_EN, 2, VI_FALSE, Bit},
@@ -37,8 +37,8 @@ constexpr std::array<Row, Settings::kCount> kRows{{
     {VI_ATTR_USER_DATA_64, 8, 0, Bits64},
 }};
 
-const Row* Find(ViAttr attribute) {
-  for (const Row& row : kRows) {
+const Setting* Find(ViAttr attribute) {
+  for (const Setting& row : kSettings) {
     if (row.attribute == attribute) return &row;
   }
   return nullptr;
@@ -60,15 +60,15 @@ ViStatus Put(void* out, unsigned width, ViUInt64 value) {
 }  // namespace
 
 Settings::Settings() {
-  for (std::size_t i = 0; i < kRows.size(); ++i) values_[i].store(kRows[i].initial, std::memory_order_relaxed);
+  for (std::size_t i = 0; i < kSettings.size(); ++i) values_[i].store(kSettings[i].initial, std::memory_order_relaxed);
 }
 
 // One value under two names: the narrow name shows its lower half.
 ViStatus Settings::Get(ViAttr attribute, void* value) const {
   if (attribute == VI_ATTR_USER_DATA_32) return Put(value, 4, (*this)[kUserData]);
-  const Row* const row = Find(attribute);
+  const Setting* const row = Find(attribute);
   if (row == nullptr) return VI_ERROR_NSUP_ATTR;
-  return Put(value, row->width, (*this)[static_cast<Index>(row - kRows.data())]);
+  return Put(value, row->width, (*this)[static_cast<Index>(row - kSettings.data())]);
 }
 
 ViStatus Settings::Set(ViAttr attribute, ViAttrState value) {
@@ -76,10 +76,10 @@ ViStatus Settings::Set(ViAttr attribute, ViAttrState value) {
     if (!Bits32(value)) return VI_ERROR_NSUP_ATTR_STATE;
     attribute = VI_ATTR_USER_DATA_64;
   }
-  const Row* const row = Find(attribute);
+  const Setting* const row = Find(attribute);
   if (row == nullptr) return VI_ERROR_NSUP_ATTR;
   if (!row->allowed(value)) return VI_ERROR_NSUP_ATTR_STATE;
-  values_[static_cast<std::size_t>(row - kRows.data())].store(value, std::memory_order_relaxed);
+  values_[static_cast<std::size_t>(row - kSettings.data())].store(value, std::memory_order_relaxed);
   return VI_SUCCESS;
 }
 

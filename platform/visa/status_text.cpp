@@ -7,12 +7,12 @@
 namespace tvr::visa {
 namespace {
 
-struct Row {
+struct StatusSentence {
   ViStatus status;
   std::string_view text;
 };
 
-constexpr Row kRows[] = {
+constexpr StatusSentence kSentences[] = {
     {VI_SUCCESS, "Done. A read has received the end of the message."},
     {VI_SUCCESS_EVENT_EN, "Event already enabled."},
     {VI_SUCCESS_EVENT_DIS, "Event already disabled."},
@@ -100,9 +100,9 @@ constexpr Row kRows[] = {
 }  // namespace
 
 std::string_view StatusText(ViStatus status) {
-  const auto* const row =
-      std::find_if(std::begin(kRows), std::end(kRows), [=](const Row& each) { return each.status == status; });
-  return row == std::end(kRows) ? std::string_view() : row->text;
+  const auto* const row = std::find_if(std::begin(kSentences), std::end(kSentences),
+                                       [=](const StatusSentence& each) { return each.status == status; });
+  return row == std::end(kSentences) ? std::string_view() : row->text;
 }
 
 }  // namespace tvr::visa
