@@ -9,7 +9,7 @@
 #include <type_traits>
 #include <utility>
 
-#include "common/Exports.h"
+#include "IviConfigServer.h"
 #include "common/TextBuffer.h"
 #include "config/HandleTable.h"
 

@@ -18,6 +18,9 @@
 #if defined(__cplusplus)
 extern "C" {
 #endif
+#if defined(__GNUC__) && !defined(_WIN32)
+#pragma GCC visibility push(default)
+#endif
 
 #define IVI_ERROR_CANNOT_RECOVER ((ViStatus)0xBFFA0000u)
 #define IVI_ERROR_OUT_OF_MEMORY ((ViStatus)0xBFFA0056u)
@@ -76,6 +79,9 @@ ViStatus _VI_FUNC IviSession_ClearError(ViSession handle);
  */
 ViStatus _VI_FUNC IviSession_Dispose(ViSession handle);
 
+#if defined(__GNUC__) && !defined(_WIN32)
+#pragma GCC visibility pop
+#endif
 #if defined(__cplusplus)
 }
 #endif

@@ -19,6 +19,9 @@
 #if defined(__cplusplus)
 extern "C" {
 #endif
+#if defined(__GNUC__) && !defined(_WIN32)
+#pragma GCC visibility push(default)
+#endif
 
 #define IVICONFIG_ERROR_DESERIALIZE_FAILED ((ViStatus)0xBFFA1200u)
 #define IVICONFIG_ERROR_ALREADY_DESERIALIZED ((ViStatus)0xBFFA1201u)
@@ -219,6 +222,9 @@ ViStatus _VI_FUNC IviConfig_GetDataComponentPropertyViReal64(IviDataComponentHan
 ViStatus _VI_FUNC IviConfig_GetDataComponentPropertyViBoolean(IviDataComponentHandle item, ViInt32 property,
                                                               ViBoolean* value);
 
+#if defined(__GNUC__) && !defined(_WIN32)
+#pragma GCC visibility pop
+#endif
 #if defined(__cplusplus)
 }
 #endif

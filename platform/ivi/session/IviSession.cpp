@@ -1,5 +1,5 @@
 // The exported functions of the session component.
-#include "common/Exports.h"
+#include "IviCShared.h"
 #include "session/SessionTable.h"
 
 using tvrivi::ErrorRecord;
