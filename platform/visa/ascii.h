@@ -1,4 +1,4 @@
-// Letters as resource names, keys and patterns compare them, whatever the locale.
+// Letters and digits as SCPI and resource names have them, whatever the locale.
 #pragma once
 
 #include <algorithm>
@@ -7,6 +7,7 @@
 
 namespace tvr::visa {
 
+constexpr bool IsDigit(int c) { return c >= '0' && c <= '9'; }
 constexpr char Upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
 
 inline std::string Upper(std::string_view text) {

@@ -14,8 +14,6 @@ namespace {
 constexpr std::size_t kLongestHost = 253;
 constexpr ViUInt16 kHislipPort = 4880;
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-
 std::optional<ViUInt16> Number(std::string_view text) {
   ViUInt16 number = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);

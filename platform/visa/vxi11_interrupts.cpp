@@ -9,6 +9,7 @@
 #include <random>
 #include <system_error>
 
+#include "vxi11_rpc.h"
 #include "xdr/vxi11.h"
 
 namespace tvr::visa::vxi11 {
@@ -19,8 +20,6 @@ constexpr std::size_t kMostCallers = 4;
 // A call is small and arrives in one go.
 constexpr std::size_t kBufferSize = 1024;
 constexpr ViUInt32 kPatience = 500;
-
-bool_t NoResults(XDR*, ...) { return TRUE; }
 
 std::array<ViByte, 16> NewHandle() {
   std::random_device random;

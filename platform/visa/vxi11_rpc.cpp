@@ -5,9 +5,6 @@
 namespace tvr::visa::vxi11 {
 namespace {
 
-// Results are decoded by who knows their type.
-bool_t NoResults(XDR*, ...) { return TRUE; }
-
 // The peer may send any number for it, and to read an enumeration that holds none of its values is undefined.
 int AcceptStatusOf(const rpc_msg& reply) {
   int status = 0;

@@ -11,6 +11,9 @@
 
 namespace tvr::visa::vxi11 {
 
+// For a reply without results, or whose results are decoded by who knows their type.
+inline bool_t NoResults(XDR*, ...) { return TRUE; }
+
 // A call takes the deadline of whoever makes it, can be interrupted, allocates nothing, and its reply may come too
 // late: a reply bears the number of its call, and one to a call that was given up is passed over by the next.
 class RpcCaller {

@@ -4,6 +4,8 @@
 #include <cstring>
 #include <string_view>
 
+#include "ascii.h"
+
 namespace tvr::visa {
 namespace {
 
@@ -52,8 +54,6 @@ constexpr unsigned LengthsOf(Kind kind) {
 }
 
 bool LengthFits(Kind kind, Length length) { return (LengthsOf(kind) & Bit(length)) != 0; }
-
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
 bool TakeDigits(const char*& format, int& value) {
   value = 0;

@@ -6,13 +6,13 @@
 #include <limits>
 #include <type_traits>
 
+#include "ascii.h"
+
 namespace tvr::visa {
 namespace {
 
 // Beyond every type's range, and far from overflow of its own.
 constexpr long kLargestExponent = 100000000;
-
-bool IsDigit(int c) { return c >= '0' && c <= '9'; }
 
 int DigitValue(int c) {
   if (IsDigit(c)) return c - '0';
