@@ -56,10 +56,16 @@ const std::string& SupportedModels() {
   return models;
 }
 
-std::string FirmwareRevision(ViSession vi) {
+const std::string& FirmwareRevision(ViSession vi) {
+  static const std::string simulated = std::string("Sim") + tvr::Identity().revision;
   const Session& session = tvr::SessionOf(vi);
-  return session.GetSimulate() ? std::string("Sim") + tvr::Identity().revision
-                               : session.GetInstrumentFirmwareRevision();
+  return session.GetSimulate() ? simulated : session.GetInstrumentFirmwareRevision();
+}
+
+std::string_view Manufacturer(ViSession vi) {
+  const Session& session = tvr::SessionOf(vi);
+  if (session.GetSimulate()) return tvr::Identity().vendor;
+  return session.GetInstrumentManufacturer();
 }
 
 }  // namespace
@@ -187,8 +193,7 @@ ViStatus KVTD481X2C_get_INSTRUMENT_MANUFACTURER(ViSession vi, ViConstString, ViI
   if (!call.ok()) return call.status();
   const ViStatus status = tvr::CheckAttributeValue(vi, NAME(INSTRUMENT_MANUFACTURER), value);
   if (status < 0) return status;
-  const Session& session = tvr::SessionOf(vi);
-  tvr::CopyText(session.GetSimulate() ? tvr::Identity().vendor : session.GetInstrumentManufacturer(), size, value);
+  tvr::CopyText(Manufacturer(vi), size, value);
   return VI_SUCCESS;
 }
 

@@ -37,15 +37,15 @@ const Route* FindRoute(const tvr::RepCapIdentifier& generator) {
 }
 
 // The one active generator. Reading from several makes no sense.
-ViStatus SingleIdentifier(ViSession vi, tvr::RepCapIdentifier& generator) {
-  const std::vector<tvr::RepCapIdentifier> active = ConcreteSession(vi).ActiveLfGeneratorPath;
+ViStatus SingleRoute(ViSession vi, const Route*& route) {
+  const std::vector<tvr::RepCapIdentifier>& active = ConcreteSession(vi).ActiveLfGeneratorPath;
   if (active.size() > 1) {
     return tvr::RaiseErrorText(
         vi, tvr::error::kBadlyFormedSelector,
         "Only a single repeated capability identifier can be specified for the current operation.");
   }
-  if (!active.empty()) generator = active.front();
-  return VI_SUCCESS;
+  route = active.empty() ? nullptr : FindRoute(active.front());
+  return route != nullptr ? VI_SUCCESS : tvr::RaiseError(vi, tvr::error::kUnknownPhysicalIdentifier);
 }
 
 template <class T>
@@ -53,11 +53,9 @@ ViStatus GetRouted(ViSession vi, const char* attribute, T* value, ViAttr Route::
   tvr::CallFrame call(vi);
   if (!call.ok()) return call.status();
   ViStatus status = tvr::CheckAttributeValue(vi, attribute, value);
-  tvr::RepCapIdentifier generator;
-  if (status >= 0) status = SingleIdentifier(vi, generator);
+  const Route* route = nullptr;
+  if (status >= 0) status = SingleRoute(vi, route);
   if (status < 0) return status;
-  const Route* route = FindRoute(generator);
-  if (route == nullptr) return tvr::RaiseError(vi, tvr::error::kUnknownPhysicalIdentifier);
   return tvr::GetAttribute<T>(vi, nullptr, route->*target, value);
 }
 
