@@ -122,6 +122,7 @@ ViStatus Session::SetAttribute(ViAttr attribute, ViAttrState value) {
   // Some of these are an exchange with the device.
   const std::lock_guard one_at_a_time(call_);
   interruption_.BeginCall();
+  if (transport().ClearsWhenSet(attribute, value)) DiscardBuffers();
   return transport().SetAttribute(attribute, value, settings_.Timeout());
 }
 

@@ -233,6 +233,10 @@ ViStatus HislipTransport::GetAttribute(ViAttr attribute, void* value) {
   }
 }
 
+bool HislipTransport::ClearsWhenSet(ViAttr attribute, ViAttrState value) const {
+  return attribute == VI_ATTR_TCPIP_HISLIP_OVERLAP_EN && value <= VI_TRUE && (value == VI_TRUE) != overlap_;
+}
+
 ViStatus HislipTransport::SetAttribute(ViAttr attribute, ViAttrState value, ViUInt32 timeout_ms) {
   Deadline deadline(timeout_ms);
   const bool on = value == VI_TRUE;
@@ -249,7 +253,7 @@ ViStatus HislipTransport::SetAttribute(ViAttr attribute, ViAttrState value, ViUI
                                                                                              : VI_ERROR_NSUP_ATTR_STATE;
     case VI_ATTR_TCPIP_HISLIP_OVERLAP_EN: {
       if (!boolean) return VI_ERROR_NSUP_ATTR_STATE;
-      if (on == overlap_) return VI_SUCCESS;
+      if (!ClearsWhenSet(attribute, value)) return VI_SUCCESS;
       const ViStatus status = Settle(ClearInto(on, deadline));
       if (status < 0) return status;
       return on == overlap_ ? VI_SUCCESS : VI_ERROR_NSUP_ATTR_STATE;

@@ -40,6 +40,7 @@ class HislipTransport final : public InstrTransport {
   ViStatus UnlockDevice(bool exclusive, ViUInt32 timeout_ms) override;
   ViStatus DeliverServiceRequests(std::function<void()> sink, ViUInt32 timeout_ms) override;
   ViStatus GetAttribute(ViAttr attribute, void* value) override;
+  bool ClearsWhenSet(ViAttr attribute, ViAttrState value) const override;
   ViStatus SetAttribute(ViAttr attribute, ViAttrState value, ViUInt32 timeout_ms) override;
   void HangUp() override;
 

@@ -78,9 +78,13 @@ ViStatus Session::Write(const ViByte* from, std::size_t count, bool end, Deadlin
 }
 
 ViStatus Session::Clear(Deadline& deadline) {
+  DiscardBuffers();
+  return transport().Clear(deadline);
+}
+
+void Session::DiscardBuffers() {
   output_.Discard();
   input_.Discard();
-  return transport().Clear(deadline);
 }
 
 ViStatus Session::Printf(const char* format, Args& args, Deadline& deadline) {

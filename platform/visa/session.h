@@ -89,6 +89,8 @@ class Session final : public AttributeOwner {
  private:
   ViStatus Scan(const char* format, Args& args, Deadline& deadline);
   ViStatus FlushWrites(Deadline& deadline);
+  // What of the formatted I/O a device clear takes with it.
+  void DiscardBuffers();
   ViStatus SwitchServiceRequests(bool on);
 
   const ViSession resource_manager_;

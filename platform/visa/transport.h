@@ -83,6 +83,8 @@ class Transport {
 
   // Attributes of this protocol alone; VI_ERROR_NSUP_ATTR for all others. `value` is the caller's, of published width.
   virtual ViStatus GetAttribute(ViAttr attribute, void* value) = 0;
+  // Would setting it clear the device?
+  virtual bool ClearsWhenSet(ViAttr /*attribute*/, ViAttrState /*value*/) const { return false; }
   // Of some it is an exchange with the device.
   virtual ViStatus SetAttribute(ViAttr attribute, ViAttrState value, ViUInt32 timeout_ms) = 0;
 

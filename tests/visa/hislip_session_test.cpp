@@ -53,6 +53,44 @@ TEST_F(HislipReading, AQueryDoesNotWaitForTheRestOfAnAnswerThatAMessageHasEnded)
   EXPECT_EQ(3, value);
 }
 
+// Switching overlap mode clears the device.
+TEST_F(HislipReading, ADeviceClearOfAnAttributeTakesWhatIsFormattedWithIt) {
+  ASSERT_EQ(VI_SUCCESS, viPrintf(vi_, "*IDN?\n"));
+  peer_.Next(kSync, 16 + 6);
+  peer_.Says(kSync, Frame("HS 07 00 FFFFFF00 0000000000000006", "Kel,5\n"));
+  char text[8] = "";
+  ASSERT_EQ(VI_SUCCESS, viScanf(vi_, "%4c", text));
+  ASSERT_STREQ("Kel,", text);
+  ASSERT_EQ(VI_SUCCESS, viBufWrite(vi_, reinterpret_cast<ViConstBuf>(":POW "), 5, nullptr));
+  peer_.Says(kAsync, Frame("HS 17 01 00000000 0000000000000000"));
+  peer_.Says(kSync, Frame("HS 09 01 00000000 0000000000000000"));
+  ASSERT_EQ(VI_SUCCESS, viSetAttribute(vi_, VI_ATTR_TCPIP_HISLIP_OVERLAP_EN, VI_TRUE));
+  peer_.Hears(kSync, Frame("HS 08 01 00000000 0000000000000000"));
+
+  ASSERT_EQ(VI_SUCCESS, viPrintf(vi_, "*OPC?\n"));
+  peer_.Hears(kSync, Frame("HS 07 00 FFFFFF00 0000000000000006", "*OPC?\n"));
+  peer_.Says(kSync, Frame("HS 07 00 FFFFFF00 0000000000000002", "1\n"));
+  ViInt32 value = 0;
+  EXPECT_EQ(VI_SUCCESS, viScanf(vi_, "%ld", &value));
+  EXPECT_EQ(1, value);
+}
+
+TEST_F(HislipReading, AnAttributeThatClearsNothingLeavesWhatIsFormattedAlone) {
+  ASSERT_EQ(VI_SUCCESS, viPrintf(vi_, "*IDN?\n"));
+  peer_.Next(kSync, 16 + 6);
+  peer_.Says(kSync, Frame("HS 07 00 FFFFFF00 0000000000000006", "Kel,5\n"));
+  char text[8] = "";
+  ASSERT_EQ(VI_SUCCESS, viScanf(vi_, "%4c", text));
+  ASSERT_EQ(VI_SUCCESS, viBufWrite(vi_, reinterpret_cast<ViConstBuf>(":POW "), 5, nullptr));
+  ASSERT_EQ(VI_SUCCESS, viSetAttribute(vi_, VI_ATTR_TCPIP_HISLIP_OVERLAP_EN, VI_FALSE)) << "as it is";
+  ASSERT_EQ(VI_ERROR_NSUP_ATTR_STATE, viSetAttribute(vi_, VI_ATTR_TCPIP_HISLIP_OVERLAP_EN, 2));
+  ViInt32 value = 0;
+  EXPECT_EQ(VI_SUCCESS, viScanf(vi_, "%ld", &value));
+  EXPECT_EQ(5, value);
+  EXPECT_EQ(VI_SUCCESS, viPrintf(vi_, "-3\n"));
+  peer_.Hears(kSync, Frame("HS 07 01 FFFFFF02 0000000000000008", ":POW -3\n"));
+}
+
 TEST_F(HislipReading, NoTerminationCharacterIsAddedToWhatIsWritten) {
   EXPECT_EQ(VI_SUCCESS, viWrite(vi_, reinterpret_cast<ViConstBuf>("*CLS"), 4, nullptr));
   peer_.Hears(kSync, Frame("HS 07 00 FFFFFF00 0000000000000004", "*CLS"));
