@@ -43,6 +43,7 @@ ViStatus HislipTransport::Gather(Gathering& gathering, Deadline& deadline) {
     if (const ViStatus status = TakePart(gathering, deadline, at_termchar); status < 0) return status;
     if (held_.empty() && sync_.PayloadLeft() == 0) {
       part_.under_way = false;
+      delivered_id_ = part_.id;
       if (part_.ends && EndPart(gathering) == VI_SUCCESS) return VI_SUCCESS;
     }
     if (at_termchar) return VI_SUCCESS_TERM_CHAR;
@@ -186,7 +187,6 @@ ViStatus HislipTransport::TakePart(Gathering& gathering, Deadline& deadline, boo
 // The last byte of an answer is with the caller. VI_SUCCESS when that ends the read.
 ViStatus HislipTransport::EndPart(Gathering& gathering) {
   rmt_delivered_ = true;
-  delivered_id_ = part_.id;
   gathering.finished = gathering.received;
   return suppress_end_ ? VI_SUCCESS_MAX_CNT : VI_SUCCESS;
 }

@@ -158,6 +158,22 @@ TEST_F(HislipOverlap, AStatusQueryTellsTheLastMessageDelivered) {
   peer_.Hears(kAsync, Frame("HS 15 01 FFFFFF06 0000000000000000"));
 }
 
+TEST_F(HislipOverlap, EachMessageOfAnAnswerIsDeliveredByItself) {
+  peer_.Says(kSync, Frame("HS 06 00 FFFFFF00 0000000000000003", "abc"));
+  peer_.Says(kSync, Frame("HS 07 00 FFFFFF02 0000000000000003", "def"));
+  peer_.Says(kAsync, Frame("HS 16 00 00000000 0000000000000000") + Frame("HS 16 00 00000000 0000000000000000") +
+                         Frame("HS 16 00 00000000 0000000000000000"));
+  EXPECT_EQ("abc", Read(2000, 3));
+  StatusByte();
+  peer_.Hears(kAsync, Frame("HS 15 00 FFFFFF00 0000000000000000"));
+  EXPECT_EQ("de", Read(2000, 2));
+  StatusByte();
+  peer_.Hears(kAsync, Frame("HS 15 00 FFFFFF00 0000000000000000"));  // the second is not whole yet
+  EXPECT_EQ("f", Read());
+  StatusByte();
+  peer_.Hears(kAsync, Frame("HS 15 01 FFFFFF02 0000000000000000"));
+}
+
 TEST_F(HislipOverlap, AnAnswerThatIsLateMayStillBeReadBeforeAnotherMessage) {
   Write("A?");
   EXPECT_EQ("", Read(20));
