@@ -1,9 +1,9 @@
 // The write format, against literal bytes.
 #include <array>
-#include <clocale>
 #include <limits>
 #include <vector>
 
+#include "DecimalComma.h"
 #include "session_fixture.h"
 
 namespace visa_test {
@@ -171,16 +171,12 @@ TEST_F(WriteFormat, BadDirectivesAreRefused) {
 }
 
 TEST_F(WriteFormat, TheProcessLocaleChangesNoDigit) {
-  const char* chosen = nullptr;
-  for (const char* name : {"de_DE.UTF-8", "de_DE.utf8", "fr_FR.UTF-8"}) {
-    if (chosen == nullptr) chosen = std::setlocale(LC_ALL, name);
-  }
+  const kvtd::test::DecimalComma comma;
+  ASSERT_TRUE(comma.InForce());
   EXPECT_EQ("1234567.5,1.5e+30,1234567,1.5", Text("%.1f,%g,%d,%Lg", 1234567.5, 1.5e30, 1234567, 1.5L));
-  double value = 0;
-  EXPECT_EQ(VI_SUCCESS, viSScanf(vi, reinterpret_cast<ViConstBuf>("1.5"), "%lf", &value));
-  EXPECT_EQ(1.5, value);
-  std::setlocale(LC_ALL, "C");
-  if (chosen == nullptr) GTEST_SKIP() << "no locale with a decimal comma is installed";
+  EXPECT_EQ("2.5|0.1|1e-05", Text("%0.15lg|%0.15lg|%0.15lg", 2.5, 0.1, 1e-5));
+  const std::array<ViReal64, 2> reals{1, 2.5};
+  EXPECT_EQ("1.000000000000000,2.500000000000000", Text("%0.15,*lf", ViInt32{2}, reals.data()));
 }
 
 class WireFormat : public SessionTest {};
@@ -199,6 +195,24 @@ TEST_F(WireFormat, ALineFeedSendsTheMessageAndTheRestWaits) {
   char word[8] = "";
   EXPECT_EQ(VI_SUCCESS, viScanf(vi, "%8s%*t", word));
   EXPECT_STREQ("done", word);
+}
+
+TEST_F(WireFormat, TheProcessLocaleChangesNoDigitOnTheWire) {
+  Open([](Connection& c) {
+    EXPECT_EQ("1.5,-0.25,2.500000000000000,1e-05\n", c.Line());
+    c.Send("1.5,-2.5e-3,12345678901234567890.5,0.000244140625,7.25\n");
+    c.WaitForClose();
+  });
+  const kvtd::test::DecimalComma comma;
+  ASSERT_TRUE(comma.InForce());
+  EXPECT_EQ(VI_SUCCESS, viPrintf(vi, "%0.15lg,%g,%.15f,%Lg\n", 1.5, -0.25, 2.5, 1e-5L));
+  std::array<ViReal64, 4> reals{};
+  ViReal32 single = 0;
+  ViInt32 count = 4;
+  EXPECT_EQ(VI_SUCCESS, viScanf(vi, "%,#lf,%f%*t", &count, reals.data(), &single));
+  EXPECT_EQ(4, count);
+  EXPECT_EQ((std::array<ViReal64, 4>{1.5, -0.0025, 12345678901234567890.5, 0.000244140625}), reals);
+  EXPECT_EQ(7.25F, single);
 }
 
 TEST_F(WireFormat, AFlushSendsWhatHasNoLineFeed) {

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "AttributeCases.h"
+#include "DecimalComma.h"
 
 namespace kvtd::test {
 namespace {
@@ -121,6 +122,27 @@ TEST_F(FrequencyDialogue, NumbersCarryFifteenSignificantDigits) {
        {1234567890.123456, 1.5e15, 0.0, -0.0, 1e-5, 1e-4, 123456789012345.0, 1234567890123456.0, 0.1, 1e99}) {
     EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_SetAttributeViReal64(vi, nullptr, KVTD481X2C_ATTR_FREQUENCY, value));
   }
+}
+
+TEST_F(FrequencyDialogue, TheProcessLocaleChangesNoByte) {
+  const DecimalComma comma;
+  ASSERT_TRUE(comma.InForce());
+  Script(R"(
+    > :FREQ 2400000000.5 HZ
+    > :POW -10.5
+    > :FREQ:MULT 1e-05 HZ
+    > :FREQ:MULT?
+    < 2.5
+    > :FREQ?
+    < +1.000000000000000123E+03
+  )");
+  EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_ConfigureRF(vi, 2.4000000005e9, -10.5));
+  EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_SetFrequencyMultiplier(vi, 1e-5));
+  ViReal64 value = 0;
+  EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_GetFrequencyMultiplier(vi, &value));
+  EXPECT_EQ(2.5, value);
+  EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_GetAttributeViReal64(vi, nullptr, KVTD481X2C_ATTR_FREQUENCY, &value));
+  EXPECT_EQ(1000.000000000000123, value);
 }
 
 TEST_F(FrequencyDialogue, TheRangeCheckOptionHoldsNothingBack) {
