@@ -168,9 +168,15 @@ void Session::Arrived(const Header& header) {
     } else if (rmt_expected_ != delivered) {
       services_.instrument().status().Report(scpi::Error::kQueryInterrupted);
     }
-    message_available_ = false;
+    NothingAvailable();
   }
   rmt_expected_ = false;
+}
+
+// So that the next answer is a new reason to ask for service.
+void Session::NothingAvailable() {
+  message_available_ = false;
+  reasons_ = static_cast<std::uint8_t>(reasons_ & ~scpi::Status::kMessageAvailable);
 }
 
 void Session::Interrupted(std::uint32_t by) {
@@ -210,6 +216,8 @@ void Session::Pump() {
 
 void Session::BeginAnswer() {
   std::vector<scpi::Bytes> answer = exchange_.TakeAnswer();
+  // In overlap mode nothing but a status query tells what the client has fetched: each answer is a new one.
+  if (overlap_) NothingAvailable();
   const auto fault = services_.faults().Next();
   std::uint64_t whole = 0;
   for (const scpi::Bytes& part : answer) whole += part.view.size();
@@ -282,7 +290,8 @@ void Session::DeviceClear() {
   framer_.Clear();
   answer_.clear();
   sync_->DropPayload();
-  rmt_expected_ = message_available_ = false;
+  rmt_expected_ = false;
+  NothingAvailable();
   if (release_after_) ReleaseLock();
   async_->Send({Message::kAsyncDeviceClearAcknowledge});
   sync_->Resume();
@@ -298,7 +307,11 @@ void Session::DeviceCleared(std::uint8_t features) {
 }
 
 void Session::StatusQuery(const Header& header) {
-  if (!overlap_ && (header.control & kRmtDelivered) != 0) rmt_expected_ = message_available_ = false;
+  const bool fetched = overlap_ ? sent_id_ == header.parameter : (header.control & kRmtDelivered) != 0;
+  if (fetched) {
+    rmt_expected_ = false;
+    NothingAvailable();
+  }
   const bool available = overlap_ ? sent_id_ != header.parameter : message_available_ && last_id_ == header.parameter;
   unsigned byte = services_.instrument().status().Byte(available) & ~unsigned{kRequestService};
   if (requests_service_) byte |= kRequestService;

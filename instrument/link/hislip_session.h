@@ -57,6 +57,7 @@ class Session : public Link, public Receiver, public std::enable_shared_from_thi
 
   void Arrived(const Header& header);
   void Interrupted(std::uint32_t by);
+  void NothingAvailable();
   bool busy() const { return sending_ || delayed_ || clearing_ || gone_; }
   bool owes_answer() const { return exchange_.answer_ready() || !answer_.empty(); }
   void BeginAnswer();

@@ -44,7 +44,7 @@ std::uint8_t Status::Byte(bool message_available) const {
   unsigned byte = 0;
   if (errors.size() != 0) byte |= 0x04;
   if (questionable.Summary()) byte |= 0x08;
-  if (message_available) byte |= 0x10;
+  if (message_available) byte |= kMessageAvailable;
   if ((standard_event_ & standard_enable) != 0) byte |= 0x20;
   if (operation.Summary()) byte |= 0x80;
   if ((byte & service_enable) != 0) byte |= 0x40;  // the master summary; its own enable bit means nothing

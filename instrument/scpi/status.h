@@ -43,6 +43,7 @@ enum QuestionableBit : std::uint16_t {
 class Status {
  public:
   static constexpr std::uint8_t kOperationComplete = 0x01, kPowerOn = 0x80;
+  static constexpr std::uint8_t kMessageAvailable = 0x10;  // in the status byte
 
   ErrorQueue errors;
   StatusRegister operation;

@@ -134,6 +134,46 @@ TEST_F(Hislip, AServiceRequestIsToldOnceUntilTheStatusByteIsAskedFor) {
   EXPECT_HEARD(Frame("HS 14 44 00000000 0000000000000000"), client_.async);
 }
 
+TEST_F(Hislip, EachAnswerAsksForServiceAnew) {
+  client_.sync.Send(Frame("HS 07 00 FFFFFF00 000000000000000D", "*SRE 16;*OPC?"));
+  EXPECT_HEARD(Frame("HS 07 00 FFFFFF00 0000000000000002", "1\n"), client_.sync);
+  EXPECT_HEARD(Frame("HS 14 50 00000000 0000000000000000"), client_.async);
+  client_.async.Send(Frame("HS 15 00 FFFFFF00 0000000000000000"));
+  EXPECT_HEARD(Frame("HS 16 50 00000000 0000000000000000"), client_.async);
+  // The next message tells that the client has the answer, or a status query does.
+  client_.sync.Send(Frame("HS 07 01 FFFFFF02 0000000000000005", "*OPC?"));
+  EXPECT_HEARD(Frame("HS 07 00 FFFFFF02 0000000000000002", "1\n"), client_.sync);
+  EXPECT_HEARD(Frame("HS 14 50 00000000 0000000000000000"), client_.async);
+  client_.async.Send(Frame("HS 15 01 FFFFFF02 0000000000000000"));
+  EXPECT_HEARD(Frame("HS 16 40 00000000 0000000000000000"), client_.async);
+  client_.sync.Send(Frame("HS 07 00 FFFFFF04 0000000000000005", "*OPC?"));
+  EXPECT_HEARD(Frame("HS 07 00 FFFFFF04 0000000000000002", "1\n"), client_.sync);
+  EXPECT_HEARD(Frame("HS 14 50 00000000 0000000000000000"), client_.async);
+}
+
+TEST_F(Hislip, OverlapModeAsksForServiceAnewToo) {
+  OverlapMode();
+  client_.sync.Send(Frame("HS 07 00 FFFFFF00 000000000000000D", "*SRE 16;*OPC?"));
+  EXPECT_HEARD(Frame("HS 07 00 FFFFFF00 0000000000000002", "1\n"), client_.sync);
+  EXPECT_HEARD(Frame("HS 14 50 00000000 0000000000000000"), client_.async);
+  client_.async.Send(Frame("HS 15 00 FFFFFEFE 0000000000000000"));
+  EXPECT_HEARD(Frame("HS 16 50 00000000 0000000000000000"), client_.async);
+  client_.sync.Send(Frame("HS 07 00 FFFFFF02 0000000000000005", "*OPC?"));
+  EXPECT_HEARD(Frame("HS 07 00 FFFFFF02 0000000000000002", "1\n"), client_.sync);
+  EXPECT_HEARD(Frame("HS 14 50 00000000 0000000000000000"), client_.async);
+}
+
+TEST_F(Hislip, InOverlapModeAFetchedAnswerIsNoReasonForService) {
+  OverlapMode();
+  client_.sync.Send(Frame("HS 07 00 FFFFFF00 000000000000000D", "*SRE 20;*OPC?"));
+  EXPECT_HEARD(Frame("HS 07 00 FFFFFF00 0000000000000002", "1\n"), client_.sync);
+  EXPECT_HEARD(Frame("HS 14 50 00000000 0000000000000000"), client_.async);
+  client_.async.Send(Frame("HS 15 00 FFFFFF00 0000000000000000"));
+  EXPECT_HEARD(Frame("HS 16 40 00000000 0000000000000000"), client_.async);
+  client_.sync.Send(Frame("HS 07 00 FFFFFF02 0000000000000002", ":X"));
+  EXPECT_HEARD(Frame("HS 14 44 00000000 0000000000000000"), client_.async);
+}
+
 TEST_F(Hislip, AnEventAtTheBenchAsksForServiceToo) {
   client_.sync.Send(Frame("HS 07 00 FFFFFF00 000000000000000B", "*SRE 4;*OPC"));
   client_.sync.Send(Frame("HS 07 00 FFFFFF02 0000000000000005", "*OPC?"));

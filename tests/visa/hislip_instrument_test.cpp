@@ -218,6 +218,24 @@ TEST_F(HislipInstrument, AnEventTellsOfAnErrorAndTheStatusByteSaysWhich) {
   EXPECT_EQ(0x44, status);
 }
 
+TEST_F(HislipInstrument, AnEventTellsOfEachAnswer) {
+  const ViSession vi = Open();
+  for (const ViAttrState overlap : {ViAttrState{VI_FALSE}, ViAttrState{VI_TRUE}}) {
+    ASSERT_EQ(VI_SUCCESS, viSetAttribute(vi, VI_ATTR_TCPIP_HISLIP_OVERLAP_EN, overlap));
+    ASSERT_EQ(VI_SUCCESS, viPrintf(vi, "*SRE 16\n"));
+    ASSERT_EQ(VI_SUCCESS, viEnableEvent(vi, VI_EVENT_SERVICE_REQ, VI_QUEUE, VI_NULL));
+    for (int i = 0; i < 3; ++i) {
+      ASSERT_EQ(VI_SUCCESS, viPrintf(vi, "*OPC?\n"));
+      ASSERT_EQ(VI_SUCCESS, viWaitOnEvent(vi, VI_EVENT_SERVICE_REQ, 5000, nullptr, nullptr));
+      ViUInt16 status = 0;
+      ASSERT_EQ(VI_SUCCESS, viReadSTB(vi, &status));
+      EXPECT_EQ(0x50, status);
+      ASSERT_EQ(VI_SUCCESS, viScanf(vi, "%*t"));
+    }
+    ASSERT_EQ(VI_SUCCESS, viDisableEvent(vi, VI_EVENT_SERVICE_REQ, VI_QUEUE));
+  }
+}
+
 TEST_F(HislipInstrument, ALockOfOneProgramKeepsAnotherOut) {
   const ViSession vi = Open();
   Interruption interruption;
