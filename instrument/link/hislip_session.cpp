@@ -113,13 +113,14 @@ Payload Session::Begins(Channel& from, const Header& header) {
 }
 
 void Session::Ends(Channel& from, const Header& header, const std::string& text) {
-  if (!BeginsWell(from, header)) return;
   if (header.message == Message::kFatalError) return Close();
-  if (header.message == Message::kError) return;
-  if (&from == sync_.get()) {
-    EndsSynchronous(header);
+  const bool dropped = header.message == Message::kError || !BeginsWell(from, header);
+  if (&from != sync_.get()) {
+    if (!dropped) EndsAsynchronous(header, text);
+  } else if (dropped) {
+    Pump();
   } else {
-    EndsAsynchronous(header, text);
+    EndsSynchronous(header);
   }
 }
 
@@ -194,7 +195,7 @@ void Session::Pump() {
   const auto self = shared_from_this();
   while (!busy()) {
     if (owes_answer()) {
-      // More input before the answer is out: whether it interrupts, its header will tell.
+      // More input before the answer is out: whether it interrupts, its header will tell. What is dropped does not.
       if (!overlap_ && sync_->InputQueued()) break;
       if (answer_.empty()) {
         BeginAnswer();
@@ -298,7 +299,10 @@ void Session::DeviceClear() {
 }
 
 void Session::DeviceCleared(std::uint8_t features) {
-  if (!clearing_) return sync_->SendError(Problem::kUnidentified);
+  if (!clearing_) {
+    sync_->SendError(Problem::kUnidentified);
+    return Pump();
+  }
   clearing_ = false;
   overlap_ = (features & kOverlap) != 0;
   last_id_ = answer_id_ = sent_id_ = kNoId;

@@ -105,6 +105,37 @@ TEST_F(HislipHostile, AMessageBeyondTheLimitIsAnErrorAndIsDropped) {
   EXPECT_HEARD(Frame("HS 03 04 00000000 0000000000000000"), client.async);
 }
 
+TEST_F(HislipHostile, WhatIsDroppedHoldsUpNoAnswer) {
+  const std::string question = Frame("HS 07 00 FFFFFF00 0000000000000005", "*OPC?");
+  const std::string answer = Frame("HS 07 00 FFFFFF00 0000000000000002", "1\n");
+  struct Dropped {
+    std::string frame;
+    std::string reply;
+  };
+  const Dropped kinds[] = {
+      {Frame("HS 40 00 00000000 0000000000000003", "???"), Frame("HS 03 01 00000000 0000000000000000")},
+      {Frame("HS C8 00 00000000 0000000000000000"), Frame("HS 03 03 00000000 0000000000000000")},
+      {Frame("HS 15 00 FFFFFF00 0000000000000000"), Frame("HS 03 01 00000000 0000000000000000")},
+      {Frame("HS 08 00 00000000 0000000000000000"), Frame("HS 03 00 00000000 0000000000000000")},
+      {Frame("HS 03 01 00000000 0000000000000004", "what"), ""},
+      {Frame("HS 06 00 FFFFFF02 0000000000100001", std::string(0x100001, 'x')),
+       Frame("HS 03 04 00000000 0000000000000000")},
+  };
+  Dropped all;
+  for (const Dropped& each : kinds) {
+    HislipClient client(instrument_.port());
+    client.sync.Send(question + each.frame);
+    EXPECT_HEARD(each.reply + answer, client.sync) << Readable(each.frame.substr(0, 16));
+    all.frame += each.frame;
+    all.reply += each.reply;
+  }
+  HislipClient client(instrument_.port());
+  client.sync.Send(question + all.frame);
+  EXPECT_HEARD(all.reply + answer, client.sync);
+  client.sync.Send(Frame("HS 07 01 FFFFFF02 000000000000000A", ":SYST:ERR?"));
+  EXPECT_HEARD(Frame("HS 07 00 FFFFFF02 000000000000000D", "0,\"No error\"\n"), client.sync);
+}
+
 TEST_F(HislipHostile, TheLargestLengthThereIsAsksForNoMemory) {
   HislipClient client(instrument_.port());
   client.sync.Send(Frame("HS 07 00 FFFFFF00 FFFFFFFFFFFFFFFF", "x"));
