@@ -144,6 +144,40 @@ TEST_F(ReadFormat, ANumberThatNeverCameIsAFailureAndItsVariableStays) {
   EXPECT_EQ(7.5, real);
 }
 
+// What nearly every query asks for has a way of its own, which must end where the general one does.
+TEST_F(ReadFormat, ANumberAndTheRestOfTheMessage) {
+  const auto real = [&](const char* text, const char* format = "%lf%*t") {
+    ViReal64 value = 4711;
+    EXPECT_EQ(VI_SUCCESS, Scan(text, format, &value)) << text;
+    return value;
+  };
+  EXPECT_EQ(1.5, real("1.5\n"));
+  EXPECT_EQ(1.5, real("1.5"));
+  EXPECT_EQ(1.5, real("1.5\n", "%lf%*T"));
+  EXPECT_EQ(1.5, real("1.5", "%lf%*T"));
+  EXPECT_EQ(-2.5, real("-2.5 V, and so on\n"));
+  EXPECT_EQ(1.5, real(" +1.5\n"));
+  EXPECT_EQ(1.5e9, real("1.5E+9\n"));
+  EXPECT_EQ(0.1234567890123456789, real("0.1234567890123456789\n"));
+  EXPECT_EQ(0.5, real(".5\n"));
+  EXPECT_EQ(10.0, real("#HA\n"));
+
+  const auto integer = [&](const char* text, const char* format = "%ld%*T") {
+    ViInt32 value = 4711;
+    EXPECT_EQ(VI_SUCCESS, Scan(text, format, &value)) << text;
+    return value;
+  };
+  EXPECT_EQ(12, integer("12\n34\n"));
+  EXPECT_EQ(-12, integer("-12;1\n", "%ld%*t"));
+  EXPECT_EQ(3, integer("2.5\n"));
+  EXPECT_EQ(200, integer("2E2\n"));
+  EXPECT_EQ(std::numeric_limits<ViInt32>::max(), integer("99999999999\n"));
+
+  void* const none = nullptr;
+  EXPECT_EQ(VI_ERROR_USER_BUF, Scan("1\n", "%lf%*t", none));
+  EXPECT_EQ(VI_ERROR_USER_BUF, Scan("1\n", "%ld%*T", none));
+}
+
 TEST_F(ReadFormat, NumbersSeparatedByCommasFillAnArray) {
   std::array<ViInt32, 6> longs{};
   EXPECT_EQ(VI_SUCCESS, Scan("1, 2,3", "%,5ld", longs.data()));
@@ -411,6 +445,16 @@ TEST_F(Query, WithoutATerminationCharacterTheAnswerIsTakenAsItComes) {
   ViInt32 number = 0;
   EXPECT_EQ(VI_SUCCESS, viQueryf(vi, "?\n", "%ld", &number));
   EXPECT_EQ(42, number);
+}
+
+TEST_F(Query, TheRestOfALineLeavesTheNextLine) {
+  OpenTo("12 and so on\n34\n");
+  viSetAttribute(vi, VI_ATTR_TERMCHAR_EN, VI_FALSE);
+  ViInt32 number = 0;
+  EXPECT_EQ(VI_SUCCESS, viScanf(vi, "%ld%*T", &number));
+  EXPECT_EQ(12, number);
+  EXPECT_EQ(VI_SUCCESS, viScanf(vi, "%ld%*T", &number));
+  EXPECT_EQ(34, number);
 }
 
 TEST_F(Query, ReadsAndQueriesShareTheStream) {

@@ -20,6 +20,11 @@ class Args {
   T Next() {
     return va_arg(list_, T);  // NOLINT(clang-analyzer-valist.Uninitialized): the constructor copies it
   }
+  // What Next would give, and will.
+  template <class T>
+  T Peek() {
+    return Args(list_).Next<T>();
+  }
 
  private:
   va_list list_;

@@ -43,6 +43,8 @@ class Reader {
 
  private:
   static bool LeavesNumberOut(const char* format);
+  template <class Element>
+  bool TakeOneNumber();
   ViStatus Literal(ViByte wanted);
   ViStatus Convert(const ReadDirective& directive);
   ViStatus Discard(char code);
@@ -58,7 +60,16 @@ class Reader {
   ReadStream& in_;
 };
 
+// "%lf%*t" and its like: a number, and the rest of the message away. Nearly every query reads with one of these.
+bool IsNumberAndRest(const char* format) {
+  return format[0] == '%' && format[1] == 'l' && (format[2] == 'f' || format[2] == 'd') && format[3] == '%' &&
+         format[4] == '*' && (format[5] == 't' || format[5] == 'T') && format[6] == '\0';
+}
+
 ViStatus Reader::Read(const char* format) {
+  if (IsNumberAndRest(format) && (format[2] == 'f' ? TakeOneNumber<double>() : TakeOneNumber<ViInt32>())) {
+    return Discard(format[5]);
+  }
   while (*format != '\0' && !in_.ended()) {
     const char c = *format++;
     ViStatus status = VI_SUCCESS;
@@ -224,6 +235,13 @@ bool TakePlainNumber(ReadStream& in, Element& value) {
   in.TakeMany(static_cast<std::size_t>(end - window.data()));
   value = found;
   return true;
+}
+
+// False: the directive has to be looked at, and nothing has been taken.
+template <class Element>
+bool Reader::TakeOneNumber() {
+  Element* const target = args_.Peek<Element*>();
+  return target != nullptr && TakePlainNumber(in_, *target);
 }
 
 template <class Element>
