@@ -27,11 +27,14 @@ ViStatus ReadToFile(Session& session, const char* name, std::size_t count, Deadl
   if (!file) return VI_ERROR_FILE_ACCESS;
   std::vector<ViByte> piece(std::min(count, kPiece));
   ViStatus status = VI_SUCCESS_MAX_CNT;
-  while (received < count && status == VI_SUCCESS_MAX_CNT) {
+  bool more = true;
+  while (received < count && more) {
+    const std::size_t wanted = std::min(count - received, piece.size());
     std::size_t taken = 0;
-    status = session.Read(piece.data(), std::min(count - received, piece.size()), deadline, taken);
+    status = session.Read(piece.data(), wanted, deadline, taken);
     if (std::fwrite(piece.data(), 1, taken, file.get()) != taken) return VI_ERROR_FILE_IO;
     received += taken;
+    more = status == VI_SUCCESS_MAX_CNT && taken == wanted;
   }
   return std::fflush(file.get()) == 0 ? status : VI_ERROR_FILE_IO;
 }

@@ -39,8 +39,9 @@ class Transport {
   virtual bool MessageEndsAnswer() const { return false; }
 
   // VI_SUCCESS: the last byte carried END. VI_SUCCESS_TERM_CHAR: the last byte is the termchar. VI_SUCCESS_MAX_CNT:
-  // at least `at_least` bytes, neither of the two. On failure `received` counts the bytes that did arrive. Bytes that
-  // came in beyond the end stay with the transport, for the next read.
+  // at least `at_least` bytes, or fewer of which the device says that they are all; neither of the two. On failure
+  // `received` counts the bytes that did arrive. Bytes that came in beyond the end stay with the transport, for the
+  // next read.
   virtual ViStatus Read(const ReadRequest& request, Deadline& deadline, std::size_t& received) = 0;
 
   // Sends the pieces as one message part; `end` puts END on the last byte. May change the pieces.

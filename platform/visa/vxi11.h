@@ -34,7 +34,7 @@ namespace tvr::visa::vxi11 {
 
 // Flags of a call, reasons for the end of a read.
 constexpr int kWaitLock = 0x01, kEnd = 0x08, kTermcharSet = 0x80;
-constexpr int kReasonEnd = 0x04;
+constexpr int kReasonCount = 0x01, kReasonTermchar = 0x02, kReasonEnd = 0x04;
 
 class Vxi11Transport final : public InstrTransport {
  public:

@@ -29,6 +29,7 @@ ViStatus Vxi11Transport::Read(const ReadRequest& request, Deadline& deadline, st
   for (;;) {
     // A device that always has more to give must not keep a call for ever, however often the call comes back here.
     if (deadline.ExpiredAtNextWait()) return VI_ERROR_TMO;
+    const std::size_t before = received;
     int reason = 0;
     if (const ViStatus status = ReadPart(request, deadline, received, reason); status < 0) return status;
     if ((reason & kReasonEnd) != 0 && !suppress_end_) return VI_SUCCESS;
@@ -37,6 +38,12 @@ ViStatus Vxi11Transport::Read(const ReadRequest& request, Deadline& deadline, st
       return VI_SUCCESS_TERM_CHAR;
     }
     if (received >= request.at_least) return VI_SUCCESS_MAX_CNT;
+    // The device has done what it was asked to. A count that was filled is that of a part of the room, and the next
+    // part follows; with less than that the device has no more to give. Nothing at all is no answer.
+    const bool filled = received - before == std::min(request.room - before, kMostRequested);
+    const bool counted = (reason & kReasonCount) != 0 && !filled;
+    const bool matched = (reason & kReasonTermchar) != 0 && request.termchar;
+    if (received > 0 && (counted || matched)) return VI_SUCCESS_MAX_CNT;
   }
 }
 

@@ -156,6 +156,34 @@ TEST_F(Vxi11Reading, WhatIsEnoughForTheCallerEndsWithoutAReason) {
   EXPECT_EQ(VI_SUCCESS_MAX_CNT, status_);
 }
 
+TEST_F(Vxi11Reading, AReasonEndsItBeforeTheRoomIsFull) {
+  peer_.Says(kCore, Reply(2, "00000000 00000001 00000003 'ABC' 00"));
+  EXPECT_EQ("ABC", Read());
+  EXPECT_EQ(VI_SUCCESS_MAX_CNT, status_);
+  peer_.Says(kCore, Reply(3, "00000000 00000002 00000003 'AB;' 00"));
+  EXPECT_EQ("AB;", Read(2000, 4096, ViByte{';'}));
+  EXPECT_EQ(VI_SUCCESS_TERM_CHAR, status_);
+  peer_.Says(kCore, Reply(4, "00000000 00000002 00000002 'AB' 0000"));
+  EXPECT_EQ("AB", Read(2000, 4096, ViByte{';'}));
+  EXPECT_EQ(VI_SUCCESS_MAX_CNT, status_) << "what is not among the data has not been read";
+  peer_.Says(kCore, Reply(5, "00000000 00000005 00000003 'ABC' 00"));
+  EXPECT_EQ("ABC", Read());
+  EXPECT_EQ(VI_SUCCESS, status_);
+}
+
+TEST_F(Vxi11Reading, AMatchOfACharacterThatNobodyAskedForEndsNothing) {
+  peer_.Says(kCore,
+             Reply(2, "00000000 00000002 00000002 'A' 0A 0000") + Reply(3, "00000000 00000004 00000001 'B' 000000"));
+  EXPECT_EQ("A\nB", Read());
+  EXPECT_EQ(VI_SUCCESS, status_);
+}
+
+TEST_F(Vxi11Reading, AReasonWithoutAnyDataEndsNothing) {
+  peer_.Says(kCore, Reply(2, "00000000 00000001 00000000") + Reply(3, "00000000 00000004 00000001 'B' 000000"));
+  EXPECT_EQ("B", Read());
+  EXPECT_EQ(VI_SUCCESS, status_);
+}
+
 TEST_F(Vxi11Reading, LargeRoomIsAskedForInParts) {
   std::string data(0x100000 + 5, 'x');
   for (std::size_t i = 0; i < data.size(); ++i) data[i] = static_cast<char>(i * 31 + i / 509);
@@ -172,6 +200,21 @@ TEST_F(Vxi11Reading, LargeRoomIsAskedForInParts) {
   });
   EXPECT_TRUE(data == Read(VI_TMO_INFINITE, data.size()));
   EXPECT_EQ(VI_SUCCESS, status_);
+  device.get();
+}
+
+TEST_F(Vxi11Reading, AFilledPartOfALargeRoomEndsNothingAndAShortOneDoes) {
+  auto device = std::async(std::launch::async, [&] {
+    peer_.Next(kCore, 68);
+    const std::string head = Bytes(
+        "80100024 00000002 00000001 00000000 00000000 00000000 00000000"
+        "00000000 00000001 00100000");
+    peer_.Says(kCore, head + std::string(0x100000, 'x'));
+    peer_.Hears(kCore, Call(3, 12, "00000007 00000064 FFFFFFFF 00000000 00000000 00000000"));
+    peer_.Says(kCore, Reply(3, "00000000 00000001 00000003 'ABC' 00"));
+  });
+  EXPECT_EQ(0x100003u, Read(VI_TMO_INFINITE, 0x100064).size());
+  EXPECT_EQ(VI_SUCCESS_MAX_CNT, status_);
   device.get();
 }
 

@@ -1,6 +1,11 @@
 // Which of a session's calls ask the device ahead, seen from the exported operations.
+#include <unistd.h>
+
+#include <cstdio>
 #include <cstdlib>
+#include <fstream>
 #include <future>
+#include <iterator>
 
 #include "vxi11_peer.h"
 
@@ -159,6 +164,18 @@ TEST_F(Vxi11Session, AFormatThatIsNoneAsksNothingAndTheNextQueryIsWhole) {
   peer_.Says(kCore, Written(2, 3) + Five(3));
   EXPECT_EQ(VI_SUCCESS, viQueryf(vi_, "A?\n", "%ld", &value));
   EXPECT_EQ(5, value);
+}
+
+TEST_F(Vxi11Session, AFileIsDoneWhenTheDeviceSaysThatThisWasAll) {
+  const std::string name = testing::TempDir() + "vxi11_session_test_" + std::to_string(::getpid());
+  ASSERT_EQ(VI_SUCCESS, viSetAttribute(vi_, VI_ATTR_TMO_VALUE, 5000));
+  peer_.Says(kCore, Reply(2, "00000000 00000001 00000003 'ABC' 00"));
+  ViUInt32 count = 0;
+  EXPECT_EQ(VI_SUCCESS_MAX_CNT, viReadToFile(vi_, name.c_str(), 100, &count));
+  EXPECT_EQ(3u, count);
+  std::ifstream file(name, std::ios::binary);
+  EXPECT_EQ("ABC", std::string(std::istreambuf_iterator<char>(file), {}));
+  std::remove(name.c_str());
 }
 
 TEST_F(Vxi11SessionWithoutProbe, AQueryIsOneCallAfterTheOther) {
