@@ -178,6 +178,34 @@ TEST_F(Vxi11Session, AFileIsDoneWhenTheDeviceSaysThatThisWasAll) {
   std::remove(name.c_str());
 }
 
+TEST_F(Vxi11Session, OnlyTheOutermostLockIsAskedOfTheDevice) {
+  const auto lock = [this] { return viLock(vi_, VI_EXCLUSIVE_LOCK, VI_TMO_IMMEDIATE, nullptr, nullptr); };
+  peer_.Says(kCore, Reply(2, "00000000"));
+  EXPECT_EQ(VI_SUCCESS, lock());
+  peer_.Hears(kCore, Call(2, 18, "00000007 00000000 00000000"));
+  EXPECT_EQ(VI_SUCCESS_NESTED_EXCLUSIVE, lock());
+  EXPECT_EQ(VI_SUCCESS_NESTED_EXCLUSIVE, viUnlock(vi_));
+  peer_.HearsNothingMore(kCore);
+  peer_.Says(kCore, Reply(3, "00000000"));
+  EXPECT_EQ(VI_SUCCESS, viUnlock(vi_));
+  peer_.Hears(kCore, Call(3, 19, "00000007"));
+  EXPECT_EQ(VI_ERROR_SESN_NLOCKED, viUnlock(vi_));
+  peer_.HearsNothingMore(kCore);
+}
+
+TEST_F(Vxi11Session, ASharedLockIsOursAloneAndTheExclusiveOneOnTopIsTheDevicesToo) {
+  EXPECT_EQ(VI_SUCCESS, viLock(vi_, VI_SHARED_LOCK, VI_TMO_IMMEDIATE, "bench", nullptr));
+  peer_.HearsNothingMore(kCore);
+  peer_.Says(kCore, Reply(2, "00000000"));
+  EXPECT_EQ(VI_SUCCESS, viLock(vi_, VI_EXCLUSIVE_LOCK, VI_TMO_IMMEDIATE, nullptr, nullptr));
+  peer_.Hears(kCore, Call(2, 18, "00000007 00000000 00000000"));
+  peer_.Says(kCore, Reply(3, "00000000"));
+  EXPECT_EQ(VI_SUCCESS_NESTED_SHARED, viUnlock(vi_));
+  peer_.Hears(kCore, Call(3, 19, "00000007"));
+  EXPECT_EQ(VI_SUCCESS, viUnlock(vi_));
+  peer_.HearsNothingMore(kCore);
+}
+
 TEST_F(Vxi11SessionWithoutProbe, AQueryIsOneCallAfterTheOther) {
   auto device = std::async(std::launch::async, [&] {
     peer_.Hears(kCore, WriteCall(2, kQuestion));
