@@ -13,6 +13,7 @@
 namespace siggen::link {
 
 using asio::ip::tcp;
+using std::chrono::milliseconds;
 using namespace hislip;
 
 namespace {
@@ -27,13 +28,15 @@ bool IsOurName(std::string_view name) { return name.empty() || IsDeviceName(name
 
 class HislipServer::Impl : public Hall {
  public:
-  Impl(Services& services, const std::string& address, std::uint16_t port)
+  Impl(Services& services, const std::string& address, std::uint16_t port, milliseconds patience_for_clear)
       : services_(services),
+        patience_for_clear_(patience_for_clear),
         acceptor_(services.io(), address, port, [this](tcp::socket socket) { Take(std::move(socket)); }) {
     acceptor_.Start();
   }
 
   Services& services() override { return services_; }
+  milliseconds patience_for_clear() const override { return patience_for_clear_; }
   void Leave(Session& session) override { sessions_.erase(session.id()); }
 
   std::uint16_t port() const { return acceptor_.port(); }
@@ -142,14 +145,16 @@ class HislipServer::Impl : public Hall {
   }
 
   Services& services_;
+  const milliseconds patience_for_clear_;
   std::set<GuestPointer> guests_;
   std::map<std::uint16_t, std::shared_ptr<Session>> sessions_;
   std::uint16_t last_id_ = 0;
   Acceptor acceptor_;
 };
 
-HislipServer::HislipServer(Services& services, const std::string& address, std::uint16_t port)
-    : impl_(std::make_unique<Impl>(services, address, port)) {}
+HislipServer::HislipServer(Services& services, const std::string& address, std::uint16_t port,
+                           milliseconds patience_for_clear)
+    : impl_(std::make_unique<Impl>(services, address, port, patience_for_clear)) {}
 HislipServer::~HislipServer() = default;
 
 std::uint16_t HislipServer::port() const { return impl_->port(); }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <asio/ip/tcp.hpp>
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -13,8 +14,12 @@ namespace siggen::link {
 
 class HislipServer {
  public:
-  // Listens when it returns. Throws std::system_error when the address or the port cannot be had.
-  HislipServer(Services& services, const std::string& address, std::uint16_t port);
+  static constexpr std::chrono::seconds kPatienceForClear{40};
+
+  // Listens when it returns. Throws std::system_error when the address or the port cannot be had. Whoever begins a
+  // device clear and does not complete it in time loses his link.
+  HislipServer(Services& services, const std::string& address, std::uint16_t port,
+               std::chrono::milliseconds patience_for_clear = kPatienceForClear);
   ~HislipServer();
   HislipServer(const HislipServer&) = delete;
   HislipServer& operator=(const HislipServer&) = delete;

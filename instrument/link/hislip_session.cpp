@@ -286,7 +286,7 @@ void Session::SendBroken(std::uint64_t announced) {
 void Session::DeviceClear() {
   clearing_ = true;
   delayed_ = false;
-  timer_.cancel();
+  AwaitDeviceClearComplete();
   exchange_.Clear();
   framer_.Clear();
   answer_.clear();
@@ -298,12 +298,21 @@ void Session::DeviceClear() {
   sync_->Resume();
 }
 
+void Session::AwaitDeviceClearComplete() {
+  timer_.expires_after(hall_.patience_for_clear());
+  timer_.async_wait([weak = weak_from_this()](const asio::error_code& problem) {
+    const auto self = weak.lock();
+    if (self && !problem && self->clearing_) self->Fail(Fatal::kUnidentified);
+  });
+}
+
 void Session::DeviceCleared(std::uint8_t features) {
   if (!clearing_) {
     sync_->SendError(Problem::kUnidentified);
     return Pump();
   }
   clearing_ = false;
+  timer_.cancel();
   overlap_ = (features & kOverlap) != 0;
   last_id_ = answer_id_ = sent_id_ = kNoId;
   sync_->Send({Message::kDeviceClearAcknowledge, overlap_ ? kOverlap : std::uint8_t{0}});

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <asio/steady_timer.hpp>
+#include <chrono>
 #include <deque>
 #include <memory>
 #include <optional>
@@ -22,6 +23,8 @@ class Hall {
  public:
   virtual ~Hall() = default;
   virtual Services& services() = 0;
+  // How long a device clear that a client has begun may take.
+  virtual std::chrono::milliseconds patience_for_clear() const = 0;
   virtual void Leave(Session& session) = 0;
 };
 
@@ -65,6 +68,7 @@ class Session : public Link, public Receiver, public std::enable_shared_from_thi
   void SendBroken(std::uint64_t announced);
 
   void DeviceClear();
+  void AwaitDeviceClearComplete();
   void DeviceCleared(std::uint8_t features);
   void StatusQuery(const Header& header);
   void Lock(const Header& header, const std::string& key);
@@ -78,7 +82,7 @@ class Session : public Link, public Receiver, public std::enable_shared_from_thi
   const std::uint16_t id_;
   std::shared_ptr<Channel> sync_;
   std::shared_ptr<Channel> async_;
-  asio::steady_timer timer_;  // until both connections are there; then for answers that are to come late
+  asio::steady_timer timer_;  // for the second connection; then for late answers and the end of a device clear
   bool gone_ = false;
 
   scpi::Framer framer_;

@@ -43,7 +43,8 @@ class Host::Impl : public Services {
       listeners_.push_back({"socket", options.address, acceptor_->port()});
     }
     if (options.hislip_port) {
-      hislip_.emplace(*this, options.address, *options.hislip_port);
+      hislip_.emplace(*this, options.address, *options.hislip_port,
+                      options.patience_for_clear.value_or(HislipServer::kPatienceForClear));
       listeners_.push_back({"hislip", options.address, hislip_->port()});
     }
     if (options.vxi11_port) {

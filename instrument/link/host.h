@@ -1,6 +1,7 @@
 // Runs one instrument on its links: the program's main loop, and the instrument inside a test.
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -18,6 +19,7 @@ struct HostOptions {
   std::string address = "127.0.0.1";
   std::optional<std::uint16_t> socket_port = std::uint16_t{0};  // 0 picks a free one
   std::optional<std::uint16_t> hislip_port;                     // nothing: no HiSLIP
+  std::optional<std::chrono::milliseconds> patience_for_clear;  // of a HiSLIP device clear; nothing: as usual
   std::optional<std::uint16_t> vxi11_port;                      // nothing: no VXI-11; of the core channel
   bool map_port = true;                                         // a port mapper tells VXI-11's port
   std::optional<std::uint16_t> port_mapper;                     // ours, there; nothing: the system's, else ours on 111

@@ -7,17 +7,17 @@
 namespace siggen {
 namespace {
 
+void ExpectFatal(Wire& connection, std::string_view code) {
+  EXPECT_HEARD(Frame("HS 02 " + std::string(code) + " 00000000 0000000000000000"), connection);
+  EXPECT_NE(-1, connection.WaitForEnd());
+}
+
 class HislipHostile : public ::testing::Test {
  protected:
   ~HislipHostile() override {
     HislipClient next(instrument_.port());
     next.sync.Send(Frame("HS 07 00 FFFFFF00 0000000000000005", "*OPC?"));
     EXPECT_HEARD(Frame("HS 07 00 FFFFFF00 0000000000000002", "1\n"), next.sync);
-  }
-
-  void ExpectFatal(Wire& connection, std::string_view code) {
-    EXPECT_HEARD(Frame("HS 02 " + std::string(code) + " 00000000 0000000000000000"), connection);
-    EXPECT_NE(-1, connection.WaitForEnd());
   }
 
   LiveInstrument instrument_{HislipOnly()};
@@ -157,6 +157,38 @@ TEST_F(HislipHostile, HalfAConnectionIsNone) {
   HislipClient client(instrument_.port());
   client.async.EndSending();
   EXPECT_EQ(0, client.sync.WaitForEnd());
+}
+
+TEST(HislipPatience, ADeviceClearThatIsNotCompletedEndsTheLink) {
+  link::HostOptions options = HislipOnly();
+  options.patience_for_clear = std::chrono::milliseconds(300);
+  LiveInstrument instrument(options);
+  std::vector<std::unique_ptr<HislipClient>> clients;
+  for (int i = 0; i < 16; ++i) clients.push_back(std::make_unique<HislipClient>(instrument.port()));
+  HislipClient& idle = *clients.back();
+  const auto begin = std::chrono::steady_clock::now();
+  idle.async.Send(Frame("HS 13 00 00000000 0000000000000000"));
+  EXPECT_HEARD(Frame("HS 17 00 00000000 0000000000000000"), idle.async);
+  ExpectFatal(idle.sync, "00");
+  ExpectFatal(idle.async, "00");
+  EXPECT_GE(std::chrono::steady_clock::now() - begin, std::chrono::milliseconds(300));
+  HislipClient next(instrument.port());
+  next.sync.Send(Frame("HS 07 00 FFFFFF00 0000000000000005", "*OPC?"));
+  EXPECT_HEARD(Frame("HS 07 00 FFFFFF00 0000000000000002", "1\n"), next.sync);
+}
+
+TEST(HislipPatience, ADeviceClearThatIsCompletedIsForgotten) {
+  link::HostOptions options = HislipOnly();
+  options.patience_for_clear = std::chrono::milliseconds(300);
+  LiveInstrument instrument(options);
+  HislipClient client(instrument.port());
+  client.async.Send(Frame("HS 13 00 00000000 0000000000000000"));
+  EXPECT_HEARD(Frame("HS 17 00 00000000 0000000000000000"), client.async);
+  client.sync.Send(Frame("HS 08 00 00000000 0000000000000000"));
+  EXPECT_HEARD(Frame("HS 09 00 00000000 0000000000000000"), client.sync);
+  std::this_thread::sleep_for(std::chrono::milliseconds(400));
+  client.sync.Send(Frame("HS 07 00 FFFFFF00 0000000000000005", "*OPC?"));
+  EXPECT_HEARD(Frame("HS 07 00 FFFFFF00 0000000000000002", "1\n"), client.sync);
 }
 
 TEST_F(HislipHostile, AnyTypeAnyControlCodeAnyParameterIsSurvived) {
