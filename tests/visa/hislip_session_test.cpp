@@ -97,6 +97,51 @@ TEST_F(HislipReading, NoTerminationCharacterIsAddedToWhatIsWritten) {
   peer_.HearsNothingMore(kSync);
 }
 
+TEST_F(HislipReading, AWaitForTheStatusByteIsEndedAndItsLateAnswerIsNotTheNextOne) {
+  ASSERT_EQ(VI_SUCCESS, viSetAttribute(vi_, VI_ATTR_TMO_VALUE, VI_TMO_INFINITE));
+  ViUInt16 status = 0;
+  auto asking = std::async(std::launch::async, [&] { return viReadSTB(vi_, &status); });
+  peer_.Hears(kAsync, Frame("HS 15 00 FFFFFEFE 0000000000000000"));
+  EXPECT_EQ(VI_SUCCESS, viTerminate(vi_, VI_NULL, VI_NULL));
+  EXPECT_EQ(VI_ERROR_ABORT, asking.get());
+  AnswersStatusQuery("11");
+  AnswersStatusQuery("22");
+  EXPECT_EQ(VI_SUCCESS, viReadSTB(vi_, &status));
+  EXPECT_EQ(0x22, status);
+}
+
+TEST_F(HislipReading, AWriteThatTheDeviceDoesNotTakeIsEndedAndTheNextOneTakesItBack) {
+  ASSERT_EQ(VI_SUCCESS, viSetAttribute(vi_, VI_ATTR_TMO_VALUE, VI_TMO_INFINITE));
+  constexpr ViUInt32 kMoreThanTheKernelKeeps = 32 << 20;
+  constexpr std::size_t kPayload = 0x100000 - 16;
+  const std::string text(kMoreThanTheKernelKeeps, 'x');
+  ViUInt32 written = 0;
+  auto writing = std::async(std::launch::async, [&] {
+    return viWrite(vi_, reinterpret_cast<ViConstBuf>(text.data()), kMoreThanTheKernelKeeps, &written);
+  });
+  peer_.Hears(kSync, Frame("HS 06 00 FFFFFF00 00000000000FFFF0"));
+  EXPECT_EQ(std::future_status::timeout, writing.wait_for(std::chrono::milliseconds(100)));
+  EXPECT_EQ(VI_SUCCESS, viTerminate(vi_, VI_NULL, VI_NULL));
+  EXPECT_EQ(VI_ERROR_ABORT, writing.get());
+  EXPECT_GT(written, 0u);
+  EXPECT_LT(written, kMoreThanTheKernelKeeps);
+
+  auto device = std::async(std::launch::async, [&] {
+    peer_.Hears(kAsync, Frame("HS 13 00 00000000 0000000000000000"));
+    peer_.Says(kAsync, Frame("HS 17 00 00000000 0000000000000000"));
+    std::string header;
+    do {  // the rest of each message, and what follows it
+      peer_.Next(kSync, kPayload);
+      header = peer_.Next(kSync, 16);
+    } while (header.substr(0, 3) == "HS\x06");
+    EXPECT_EQ(Frame("HS 08 00 00000000 0000000000000000"), header);
+    peer_.Says(kSync, Frame("HS 09 00 00000000 0000000000000000"));
+    peer_.Hears(kSync, Frame("HS 07 00 FFFFFF00 0000000000000002", "A?"));
+  });
+  EXPECT_EQ(VI_SUCCESS, viWrite(vi_, reinterpret_cast<ViConstBuf>("A?"), 2, nullptr));
+  device.get();
+}
+
 TEST_F(HislipReading, EveryPublishedProtocolCanBeSet) {
   ViUInt16 protocol = 0;
   EXPECT_EQ(VI_SUCCESS, viGetAttribute(vi_, VI_ATTR_IO_PROT, &protocol));
