@@ -15,13 +15,13 @@ bool Locks::Admits(Client client) const {
 
 std::size_t Locks::holders() const { return sharers_.size() + (exclusive_ != nullptr && !Shares(exclusive_) ? 1 : 0); }
 
-// A shared lock cannot be had on top of the exclusive one, only the other way round.
+// A client may hold both kinds, in whatever order it asked for them.
 bool Locks::Holds(Client client, const std::string& key) const {
-  return exclusive_ == client || (!key.empty() && Shares(client));
+  return key.empty() ? exclusive_ == client : Shares(client);
 }
 
 bool Locks::Grant(Client client, const std::string& key) {
-  if (exclusive_ != nullptr) return false;
+  if (exclusive_ != nullptr && exclusive_ != client) return false;
   if (key.empty()) {
     if (!sharers_.empty() && !Shares(client)) return false;
     exclusive_ = client;

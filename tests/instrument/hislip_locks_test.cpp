@@ -133,12 +133,49 @@ TEST_F(HislipLocks, ASharerMayHaveTheExclusiveLockOnTop) {
   EXPECT_HEARD(kSharedReleased, one_.async);
 }
 
+TEST_F(HislipLocks, TheHolderOfTheExclusiveLockMayHaveASharedOneOnTop) {
+  AskExclusive(one_);
+  AskShared(one_, "a");
+  EXPECT_HEARD(kGranted + kGranted, one_.async);
+  one_.async.Send(Frame("HS 18 00 00000000 0000000000000000"));
+  EXPECT_HEARD(Frame("HS 19 01 00000001 0000000000000000"), one_.async) << "one client holds both";
+  AskShared(two_, "a");
+  EXPECT_HEARD(kFailed, two_.async);
+  Release(one_);
+  EXPECT_HEARD(kExclusiveReleased, one_.async);
+  AskShared(two_, "b");
+  EXPECT_HEARD(kFailed, two_.async);
+  AskShared(two_, "a");
+  EXPECT_HEARD(kGranted, two_.async);
+  Release(one_);
+  EXPECT_HEARD(kSharedReleased, one_.async);
+  Release(one_);
+  EXPECT_HEARD(kRefused, one_.async);
+}
+
+TEST_F(HislipLocks, ASharerThatWaitsIsServedWhenTheExclusiveLockBeneathIsReleased) {
+  AskExclusive(one_);
+  EXPECT_HEARD(kGranted, one_.async);
+  AskShared(two_, "a", "00007530");
+  two_.async.Send(Frame("HS 18 00 00000000 0000000000000000"));
+  EXPECT_HEARD(Frame("HS 19 01 00000001 0000000000000000"), two_.async);
+  AskShared(one_, "a");
+  EXPECT_HEARD(kGranted, one_.async);
+  Release(one_);
+  EXPECT_HEARD(kExclusiveReleased, one_.async);
+  EXPECT_HEARD(kGranted, two_.async);
+}
+
 TEST_F(HislipLocks, WhatOneHasOrHasNotIsAnError) {
   Release(one_);
   EXPECT_HEARD(kRefused, one_.async);
   AskExclusive(one_);
   AskExclusive(one_);
   EXPECT_HEARD(kGranted + kRefused, one_.async);
+  AskShared(one_, "a");
+  AskShared(one_, "a");
+  AskExclusive(one_);
+  EXPECT_HEARD(kGranted + kRefused + kRefused, one_.async);
   one_.async.Send(Frame("HS 04 02 00000000 0000000000000000"));
   EXPECT_HEARD(Frame("HS 03 02 00000000 0000000000000000"), one_.async);
 }

@@ -252,6 +252,21 @@ TEST_F(HislipInstrument, ALockOfOneProgramKeepsAnotherOut) {
   EXPECT_EQ(VI_SUCCESS, viUnlock(vi));
 }
 
+TEST_F(HislipInstrument, ASharedLockIsHadOnTopOfTheExclusiveOne) {
+  const ViSession vi = Open();
+  Interruption interruption;
+  const auto other = OpenTransport(interruption);
+  EXPECT_EQ(VI_SUCCESS, viLock(vi, VI_EXCLUSIVE_LOCK, 1000, nullptr, nullptr));
+  EXPECT_EQ(VI_SUCCESS, viLock(vi, VI_SHARED_LOCK, 1000, "bench", nullptr));
+  EXPECT_EQ(VI_ERROR_TMO, other->LockDevice("bench", 30));
+  EXPECT_EQ(VI_SUCCESS_NESTED_SHARED, viUnlock(vi));
+  EXPECT_EQ(VI_ERROR_TMO, other->LockDevice("", 30));
+  EXPECT_EQ(VI_SUCCESS, other->LockDevice("bench", 1000));
+  EXPECT_EQ(VI_SUCCESS, viUnlock(vi));
+  EXPECT_EQ(VI_ERROR_SESN_NLOCKED, viUnlock(vi));
+  EXPECT_EQ(VI_SUCCESS, other->LockDevice("", 1000));
+}
+
 TEST_F(HislipInstrument, WithoutTheLockASessionWaitsAtTheDeviceAndStillHasItsStatusAndItsClear) {
   const ViSession holder = Open();
   const ViSession other = Open();
