@@ -206,6 +206,21 @@ TEST_F(SimulatedCache, ATextThatWasCutInAReadingStaysCut) {
   EXPECT_EQ("gene", HostName(64));
 }
 
+// The default is stored by the read that finds nothing, and a text shows it by having been cut.
+TEST_F(SimulatedCache, AReadThatFindsNothingStoresItsDefault) {
+  const auto unit_name = [this](ViInt32 size) {
+    GuardedText<8> text;
+    EXPECT_LE(VI_SUCCESS, KVTD481X2C_GetUnitName(vi, size, text.data()));
+    return text.text();
+  };
+  EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_SetUnitName(vi, "rack 7"));
+  EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_InvalidateAllAttributes(vi));
+  EXPECT_EQ("", unit_name(1));
+  EXPECT_EQ("", unit_name(8));
+  EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_InvalidateAllAttributes(vi));
+  EXPECT_EQ("0", unit_name(8));
+}
+
 TEST_F(SimulatedCache, AnEmptyTextThatWasSetIsNotTheDefault) {
   EXPECT_EQ("0", TextAttribute(KVTD481X2C_ATTR_UNIT_NAME));
   EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_SetAttributeViString(vi, nullptr, KVTD481X2C_ATTR_UNIT_NAME, ""));

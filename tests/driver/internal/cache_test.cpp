@@ -1,6 +1,7 @@
 // The caches of a session, and the scope objects that fill them.
 
 #include <CacheManager.h>
+#include <KVTD481X2C.h>
 #include <Registry.h>
 
 #include "BareSession.h"
@@ -32,6 +33,23 @@ class Caches : public BareSession {
     EXPECT_EQ(value, entry->value);
   }
 };
+
+// A frame.
+
+TEST_F(Caches, ASimulatedReadThatFindsNothingStoresItsDefault) {
+  session().SetSimulate(true);
+  ViReal64 value = 77;
+  for (int round = 0; round < 2; ++round) {
+    EXPECT_EQ(VI_SUCCESS, KVTD481X2C_InvalidateAllAttributes(vi));
+    EXPECT_EQ(nullptr, Entry<ViReal64>(kReal));
+    EXPECT_EQ(VI_SUCCESS, KVTD481X2C_GetFrequencyMultiplier(vi, &value));
+    EXPECT_EQ(0.0, value);
+    ExpectStored<ViReal64>(kReal, 0.0);
+    session().CacheOf<ViReal64>()[kReal][""].value = 2.5;
+    EXPECT_EQ(VI_SUCCESS, KVTD481X2C_GetFrequencyMultiplier(vi, &value));
+    EXPECT_EQ(2.5, value);
+  }
+}
 
 // Managers.
 
