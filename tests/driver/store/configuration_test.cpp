@@ -19,6 +19,7 @@ constexpr ViStatus kDeserializeFailed = Status(0xBFFA1200U);
 constexpr ViStatus kNotInGlobal = Status(0xBFFA1204U);
 constexpr ViStatus kNotExist = Status(0xBFFA1207U);
 
+constexpr ViStatus kUnknownName = Status(0xBFFA0067U);
 constexpr ViStatus kVisaBadResource = Status(0xBFFF0012U);
 
 class Configuration : public InstrumentDialogue {
@@ -220,6 +221,30 @@ TEST_F(Configuration, VirtualNameStandsForItsPhysicalName) {
   ViReal64 frequency = 0.0;
   ASSERT_STATUS(VI_SUCCESS, KVTD481X2C_GetFMInternalFrequency(vi, &frequency));
   EXPECT_EQ(440.0, frequency);
+}
+
+// The session selects "AM" by itself while it comes up, and the store has its say in that.
+TEST_F(Configuration, VirtualNameThatTakesAmAwayLeavesASessionWithoutTheLastSteps) {
+  Script(R"(
+    > *IDN?
+    < Kelvora,TD48142C,SN4711,1.2.3
+  )");
+  StoredSession session;
+  session.virtual_names = VirtualName("AM", "Foo");
+  for (const bool simulate : {true, false}) {
+    session.simulate = simulate;
+    session.resource = instrument.ResourceName();
+    EXPECT_STATUS(kUnknownName, OpenStored(session));
+    ASSERT_NE(VI_NULL, static_cast<int>(vi));
+    EXPECT_EQ((RecordedError{kUnknownName,
+                             "Unknown physical repeated capability selector.  The identifier 'Foo' is not defined for "
+                             "repeated capability 'LFGenerator'."}),
+              LastError());
+    EXPECT_EQ("", TextAttribute(KVTD481X2C_ATTR_ACTIVE_LF_GENERATOR));
+    ASSERT_STATUS(VI_SUCCESS, KVTD481X2C_SetActiveLFGenerator(vi, "PM"));
+    EXPECT_EQ("PM", TextAttribute(KVTD481X2C_ATTR_ACTIVE_LF_GENERATOR));
+    Close();
+  }
 }
 
 TEST_F(Configuration, QualifiedPhysicalNameLosesItsPath) {
