@@ -276,7 +276,8 @@ TEST_F(TextDialogueDeathTest, ALongerTextInALargerBufferEndsTheProcess) {
   Sent(":SYST:COMM:LAN:HOST?\n");
   Answer(std::string(4096, 'y') + '\n');
   GuardedText<5000> text;
-  EXPECT_DEATH(KVTD481X2C_GetLanHostname(vi, text.size(), text.data()), "MAX_STRING_ATTRIBUTE_LENGTH");
+  EXPECT_DEATH(KVTD481X2C_GetLanHostname(vi, text.size(), text.data()),
+               R"(strnlen_s\(AttributeValue, _TRUNCATE\) < MAX_STRING_ATTRIBUTE_LENGTH)");
 }
 
 TEST_F(TextDialogue, AFailedReadIsToldBeforeTheSizeOfItsText) {

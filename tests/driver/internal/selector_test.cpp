@@ -363,5 +363,9 @@ TEST(SelectorDeathTest, ACapabilityWithoutNamesIsAFaultOfOurOwn) {
   EXPECT_DEATH(tvr::RepeatedCapability("Nothing", ""), "names.size\\(\\) > 0");
 }
 
+TEST(SelectorDeathTest, ACapabilityWithNamesThatDoNotExpandIsAFaultOfOurOwn) {
+  EXPECT_DEATH(tvr::RepeatedCapability("Twice", "AM,AM"), "RepeatedCapability\\.cpp.*status >= 0");
+}
+
 }  // namespace
 }  // namespace kvtd::test
