@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <future>
 #include <thread>
 #include <vector>
 
@@ -439,6 +440,22 @@ TEST_F(Lock, AnotherThreadWaitsUntilItIsGivenBack) {
   other.join();
   EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_GetFrequencyMultiplier(vi, &value));
   EXPECT_EQ(2.0, value);
+}
+
+TEST_F(Lock, DoesNotHoldUpWhoAsksForTheLastErrorOrClearsIt) {
+  EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_LockSession(vi, nullptr));
+  EXPECT_STATUS(kNullPointer, KVTD481X2C_GetFrequencyMultiplier(vi, nullptr));
+  auto asked = std::async(std::launch::async, [this] { return LastError().code; });
+  EXPECT_EQ(std::future_status::ready, asked.wait_for(kPatience));
+
+  EXPECT_STATUS(kNullPointer, KVTD481X2C_GetFrequencyMultiplier(vi, nullptr));
+  auto cleared = std::async(std::launch::async, [this] { return KVTD481X2C_ClearError(vi); });
+  EXPECT_EQ(std::future_status::ready, cleared.wait_for(kPatience));
+
+  EXPECT_STATUS(VI_SUCCESS, KVTD481X2C_UnlockSession(vi, nullptr));
+  EXPECT_STATUS(kNullPointer, asked.get());
+  EXPECT_STATUS(VI_SUCCESS, cleared.get());
+  EXPECT_EQ(kNothingRecorded, LastError());
 }
 
 TEST_F(Lock, OfOneSessionDoesNotHoldUpAnother) {

@@ -2,6 +2,7 @@
 
 #include <IviCShared.h>
 #include <KVTD481X2C.h>
+#include <ScopedIoTimeout.h>
 #include <gmock/gmock.h>
 
 #include "FakeVisa.h"
@@ -141,6 +142,28 @@ TEST_F(OverFakeVisa, AClosingThatFailsDoesNotShowAndTheHandleIsGone) {
   vi = VI_NULL;
 }
 
+// Kept on purpose: a simulated session makes no call of VISA, so that a real one that came to simulate leaves its own
+// open.
+TEST_F(OverFakeVisa, ASessionThatCameToSimulateLeavesItsVisaSessionOpen) {
+  OpenQuietly();
+  EXPECT_EQ(VI_SUCCESS, KVTD481X2C_SetAttributeViBoolean(vi, nullptr, KVTD481X2C_ATTR_SIMULATE, VI_TRUE));
+  EXPECT_EQ(VI_SUCCESS, KVTD481X2C_close(vi));
+  EXPECT_THAT(Visa().calls, IsEmpty());
+  EXPECT_EQ(kInvalidHandle, KVTD481X2C_close(vi));
+  vi = VI_NULL;
+}
+
+TEST_F(OverFakeVisa, ASessionThatIsRealAgainClosesItsVisaSession) {
+  OpenQuietly();
+  for (const bool on : {true, false}) {
+    const ViBoolean simulate = on ? VI_TRUE : VI_FALSE;
+    EXPECT_EQ(VI_SUCCESS, KVTD481X2C_SetAttributeViBoolean(vi, nullptr, KVTD481X2C_ATTR_SIMULATE, simulate));
+  }
+  EXPECT_EQ(VI_SUCCESS, KVTD481X2C_close(vi));
+  EXPECT_THAT(Visa().calls, ElementsAre("viClose 100"));
+  vi = VI_NULL;
+}
+
 TEST_F(OverFakeVisa, ARefusedModelClosesTheResourceManagerOnce) {
   Visa().identity[1] = "XYZ-1";
   EXPECT_EQ(kIdQueryFailed, Open("", VI_TRUE));
@@ -189,6 +212,18 @@ TEST_F(OverFakeVisa, AResetRunsUnderATimeoutOfItsOwnAndGivesTheOldOneBack) {
   EXPECT_THAT(Visa().calls,
               ElementsAre("viGetAttribute 200 TMO_VALUE", "viSetAttribute 200 TMO_VALUE 2000", "viPrintf 200 *RST\n",
                           "viQueryf 200 *OPC?\n%ld%*T", "viSetAttribute 200 TMO_VALUE 4711"));
+}
+
+TEST_F(OverFakeVisa, TheOldTimeoutIsGivenBackAlsoWhenAnExceptionPasses) {
+  OpenQuietly();
+  EXPECT_THROW(
+      {
+        const tvr::ScopedIoTimeout timeout(vi, 3000);
+        throw 1;
+      },
+      int);
+  EXPECT_THAT(Visa().calls, ElementsAre("viGetAttribute 200 TMO_VALUE", "viSetAttribute 200 TMO_VALUE 3000",
+                                        "viSetAttribute 200 TMO_VALUE 4711"));
 }
 
 TEST_F(OverFakeVisaDeathTest, ATimeoutThatCannotBeReadSetOrGivenBackEndsTheProcess) {
