@@ -54,6 +54,8 @@ ViStatus AsyncChannel::Ask(const Question& question, Deadline& deadline, Answer&
       return status;
     }
     if (unanswered == 0 && header.type == question.answer) {
+      // Who asks for the status byte himself has taken notice.
+      if (question.answer == Type::kAsyncStatusResponse && !sink_) service_requests_ = 0;
       answer.control = header.control;
       answer.parameter = header.parameter;
       return ReadNumber(deadline, answer.number);
@@ -124,7 +126,7 @@ ViStatus AsyncChannel::ReadNumber(Deadline& deadline, ViUInt64& number) {
 ViStatus AsyncChannel::Meet(const Header& header, Deadline& deadline) {
   switch (header.type) {
     case Type::kAsyncServiceRequest:
-      if (sink_) ++service_requests_;
+      service_requests_ = sink_ ? service_requests_ + 1 : 1;
       return VI_SUCCESS;
     case Type::kAsyncInterrupted:
       interruptions_.fetch_add(1, std::memory_order_release);
@@ -172,7 +174,7 @@ void AsyncChannel::ForgetUnanswered() {
 ViStatus AsyncChannel::DeliverServiceRequests(std::function<void()> sink) {
   const Turn turn(*this);
   sink_ = std::move(sink);
-  service_requests_ = 0;
+  if (!sink_) service_requests_ = 0;
   if (sink_ && !thread_.joinable()) {
     try {
       thread_ = std::thread([self = shared_from_this()] { self->Listen(); });
@@ -188,7 +190,7 @@ ViStatus AsyncChannel::DeliverServiceRequests(std::function<void()> sink) {
 void AsyncChannel::Listen() {
   std::unique_lock lock(guard_);
   while (!closing_) {
-    if (service_requests_ > 0 && sink_) {
+    if (OwesServiceRequest()) {
       --service_requests_;
       const auto sink = sink_;
       lock.unlock();
@@ -196,10 +198,10 @@ void AsyncChannel::Listen() {
       lock.lock();
       continue;
     }
-    calm_.wait(lock, [this] { return callers_ == 0 || closing_ || service_requests_ > 0; });
+    calm_.wait(lock, [this] { return callers_ == 0 || closing_ || OwesServiceRequest(); });
     wake_.BeginCall();
     // A caller that came before the line above woke nobody.
-    if (callers_ > 0 || closing_ || service_requests_ > 0) continue;
+    if (callers_ > 0 || closing_ || OwesServiceRequest()) continue;
     Deadline none(VI_TMO_INFINITE);
     Header header;
     ViStatus status = channel_.Next(none, header);

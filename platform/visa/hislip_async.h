@@ -80,6 +80,7 @@ class AsyncChannel : public std::enable_shared_from_this<AsyncChannel> {
   ViStatus ReadNumber(Deadline& deadline, ViUInt64& number);
   // What is no answer to the present question.
   ViStatus Meet(const Header& header, Deadline& deadline);
+  bool OwesServiceRequest() const { return service_requests_ > 0 && sink_; }
   void Listen();
   void SendMalformed();
 
@@ -95,6 +96,7 @@ class AsyncChannel : public std::enable_shared_from_this<AsyncChannel> {
   std::atomic<ViUInt32> interruptions_{0};
   std::atomic<ViUInt32> last_id_{kFirstId - kIdStep};
   std::function<void()> sink_;
+  // Without a sink one is kept for the next: the device makes no other before it is asked for its status byte.
   unsigned service_requests_ = 0;
   std::atomic<bool> closing_{false};
   std::atomic<bool> listening_{false};

@@ -85,6 +85,32 @@ TEST_F(HislipEvents, AServiceRequestIsWaitedForAndHasAContext) {
   EXPECT_EQ(VI_ERROR_INV_OBJECT, viClose(context));
 }
 
+TEST_F(HislipEvents, ARequestFromBeforeItIsEnabledWaitsForThatWhateverElseIsAskedMeanwhile) {
+  for (const char* const before : {"the first time", "once more"}) {
+    peer_.Says(kAsync, kServiceRequest);
+    auto asking = std::async(std::launch::async, [this] { return viGpibControlREN(vi_, 1); });
+    peer_.Next(kAsync, 16);
+    peer_.Says(kAsync, Frame("HS 0B 00 00000000 0000000000000000"));
+    ASSERT_EQ(VI_SUCCESS, asking.get());
+    ASSERT_EQ(VI_SUCCESS, Enable(VI_QUEUE));
+    EXPECT_EQ(VI_SUCCESS, Wait(5000)) << before;
+    EXPECT_EQ(VI_ERROR_TMO, Wait(50)) << before;
+    ASSERT_EQ(VI_SUCCESS, Disable(VI_QUEUE));
+  }
+}
+
+TEST_F(HislipEvents, ARequestFromBeforeItIsEnabledIsOverWhenTheStatusByteHasBeenAskedFor) {
+  peer_.Says(kAsync, kServiceRequest);
+  AnswersStatusQuery("50");
+  ViUInt16 status = 0;
+  ASSERT_EQ(VI_SUCCESS, viReadSTB(vi_, &status));
+  EXPECT_EQ(0x50, status);
+  ASSERT_EQ(VI_SUCCESS, Enable(VI_QUEUE));
+  EXPECT_EQ(VI_ERROR_TMO, Wait(50));
+  peer_.Says(kAsync, kServiceRequest);
+  EXPECT_EQ(VI_SUCCESS, Wait(5000));
+}
+
 TEST_F(HislipEvents, AContextThatNobodyClosedGoesWithTheManager) {
   ASSERT_EQ(VI_SUCCESS, Enable(VI_QUEUE));
   peer_.Says(kAsync, kServiceRequest);
