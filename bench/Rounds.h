@@ -47,7 +47,9 @@ inline double HeldBack(const std::vector<double>& microseconds) {
   return static_cast<double>(std::count_if(microseconds.begin(), microseconds.end(), held_back));
 }
 
-// Each round makes `calls` calls of each, one after the other, and takes its median of single calls.
+// Each round makes `calls` calls of the one and then of the other, and takes its median of single calls. In turn, call
+// by call, three threads would share the core instead of two, and its scheduler charges more for a moment of computing
+// than it takes: plain sockets that compute 250 ns behind each of two queries were 1.05 of those that do not, not 1.03.
 template <class Floor, class Work>
 Comparison Alternate(int calls, const Floor& floor, const Work& work) {
   std::vector<double> all_floor;
@@ -57,10 +59,8 @@ Comparison Alternate(int calls, const Floor& floor, const Work& work) {
   for (int round = -2; round < kRounds; ++round) {  // the first two warm up
     std::vector<double> floor_calls;
     std::vector<double> work_calls;
-    for (int call = 0; call < calls; ++call) {
-      floor_calls.push_back(Time(floor));
-      work_calls.push_back(Time(work));
-    }
+    for (int call = 0; call < calls; ++call) floor_calls.push_back(Time(floor));
+    for (int call = 0; call < calls; ++call) work_calls.push_back(Time(work));
     if (round < 0) continue;
     floors.push_back(Median(floor_calls));
     works.push_back(Median(work_calls));

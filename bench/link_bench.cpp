@@ -3,9 +3,7 @@
 #include <KVTD481X2C.h>
 #include <benchmark/benchmark.h>
 
-#include <chrono>
 #include <cstdlib>
-#include <memory>
 #include <string>
 
 #include "FloorClient.h"
@@ -64,35 +62,6 @@ void QueryWithStatus(benchmark::State& state) {
     bench::Report(state,
                   bench::Alternate(kCalls, floor, [&] { Require(KVTD481X2C_GetFrequencyMultiplier(b.vi, &value)); }),
                   1.05);
-  }
-}
-
-// Two plain queries against the same two with a moment of computing behind each: what a processor makes of that moment
-// when client and peer share it is more than the moment, and no driver is without one.
-void Pause(benchmark::State& state) {
-  constexpr std::chrono::nanoseconds kMoment{250};
-  Bench b(state);
-  bench::FloorClient second(b.responder.port());
-  const auto compute = [&] {
-    const auto end = std::chrono::steady_clock::now() + kMoment;
-    while (std::chrono::steady_clock::now() < end) continue;
-  };
-  for (auto _ : state) {
-    const auto floor = [&] {
-      b.floor.Query(":FREQ:MULT?\n");
-      b.floor.Query("*ESR?\n");
-    };
-    const auto paused = [&] {
-      second.Query(":FREQ:MULT?\n");
-      compute();
-      second.Query("*ESR?\n");
-      compute();
-    };
-    const bench::Comparison result = bench::Alternate(kCalls, floor, paused);
-    state.counters["floor_us"] = result.floor;
-    state.counters["paused_us"] = result.work;
-    state.counters["ratio"] = result.work / result.floor;
-    state.counters["ratio_of_sum"] = 1.0 + 2 * 1e-3 * static_cast<double>(kMoment.count()) / result.floor;
   }
 }
 
@@ -160,7 +129,6 @@ void OpenClose(benchmark::State& state) {
 
 BENCHMARK(Query)->Apply(bench::Placed);
 BENCHMARK(QueryWithStatus)->Apply(bench::Placed);
-BENCHMARK(Pause)->Apply(bench::Placed);
 BENCHMARK(SetWithStatus)->Apply(bench::Placed);
 BENCHMARK(Set)->Apply(bench::Placed);
 BENCHMARK(OpenClose)->Apply(bench::Placed);

@@ -15,8 +15,6 @@ ROWS = [
     ("Query/cores:1", "p99_ratio", "the slowest hundredth of them, to the floor's"),
     ("QueryWithStatus/cores:1", "ratio", "query with status check"),
     ("QueryWithStatus/cores:2", "ratio", "the same on two cores"),
-    ("Pause/cores:1", "ratio", "two queries of plain sockets, with 250 ns of computing behind each"),
-    ("Pause/cores:1", "ratio_of_sum", "what 250 ns twice would add by themselves"),
     ("SetWithStatus/cores:1", "ratio", "set with status check"),
     ("SetWithStatus/cores:2", "ratio", "the same on two cores"),
     ("SetWithStatus/cores:1", "held_back", "of these sets, those that took 20 to 60 ms"),
