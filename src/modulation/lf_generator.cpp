@@ -36,16 +36,18 @@ const Route* FindRoute(const tvr::RepCapIdentifier& generator) {
   return nullptr;
 }
 
-// The one active generator. Reading from several makes no sense.
-ViStatus SingleRoute(ViSession vi, const Route*& route) {
+// That of the one active generator; reading from several makes no sense. Null, and why, without one.
+const Route* SingleRoute(ViSession vi, ViStatus& status) {
   const std::vector<tvr::RepCapIdentifier>& active = ConcreteSession(vi).ActiveLfGeneratorPath;
   if (active.size() > 1) {
-    return tvr::RaiseErrorText(
-        vi, tvr::error::kBadlyFormedSelector,
-        "Only a single repeated capability identifier can be specified for the current operation.");
+    status =
+        tvr::RaiseErrorText(vi, tvr::error::kBadlyFormedSelector,
+                            "Only a single repeated capability identifier can be specified for the current operation.");
+    return nullptr;
   }
-  route = active.empty() ? nullptr : FindRoute(active.front());
-  return route != nullptr ? VI_SUCCESS : tvr::RaiseError(vi, tvr::error::kUnknownPhysicalIdentifier);
+  const Route* const route = active.empty() ? nullptr : FindRoute(active.front());
+  if (route == nullptr) status = tvr::RaiseError(vi, tvr::error::kUnknownPhysicalIdentifier);
+  return route;
 }
 
 template <class T>
@@ -53,9 +55,8 @@ ViStatus GetRouted(ViSession vi, const char* attribute, T* value, ViAttr Route::
   tvr::CallFrame call(vi);
   if (!call.ok()) return call.status();
   ViStatus status = tvr::CheckAttributeValue(vi, attribute, value);
-  const Route* route = nullptr;
-  if (status >= 0) status = SingleRoute(vi, route);
-  if (status < 0) return status;
+  const Route* const route = status < 0 ? nullptr : SingleRoute(vi, status);
+  if (route == nullptr) return status;
   return tvr::GetAttribute<T>(vi, nullptr, route->*target, value);
 }
 
