@@ -5,6 +5,7 @@
 
 #include <array>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -36,28 +37,35 @@ constexpr const char* kLongText = "a generator of the upper rack, third from the
 
 // Of a second read; of none where the first is refused.
 template <class Read>
-std::size_t WarmAllocations(Read read) {
-  if (read() < 0) return 0;
+std::optional<std::size_t> WarmAllocations(Read read) {
+  if (read() < 0) return std::nullopt;
   const std::size_t before = CountedCalls().allocations;
   EXPECT_LE(VI_SUCCESS, read());
   return CountedCalls().allocations - before;
 }
 
-void ExpectNoReadToAllocate(ViSession vi) {
+// How many attributes could be read.
+int ExpectNoReadToAllocate(ViSession vi) {
+  int attributes_read = 0;
   ViInt32 integer = 0;
   ViReal64 real = 0.0;
   ViBoolean boolean = VI_FALSE;
   std::array<ViChar, 4096> text{};
   for (const auto& [name, attribute] : kAttributes) {
     const ViAttr id = attribute;
-    EXPECT_EQ(0U, WarmAllocations([&] { return KVTD481X2C_GetAttributeViInt32(vi, "", id, &integer); })) << name;
-    EXPECT_EQ(0U, WarmAllocations([&] { return KVTD481X2C_GetAttributeViReal64(vi, "", id, &real); })) << name;
-    EXPECT_EQ(0U, WarmAllocations([&] { return KVTD481X2C_GetAttributeViBoolean(vi, "", id, &boolean); })) << name;
-    EXPECT_EQ(0U, WarmAllocations([&] {
-                return KVTD481X2C_GetAttributeViString(vi, "", id, static_cast<ViInt32>(text.size()), text.data());
-              }))
-        << name;
+    const std::optional<std::size_t> by_type[] = {
+        WarmAllocations([&] { return KVTD481X2C_GetAttributeViInt32(vi, "", id, &integer); }),
+        WarmAllocations([&] { return KVTD481X2C_GetAttributeViReal64(vi, "", id, &real); }),
+        WarmAllocations([&] { return KVTD481X2C_GetAttributeViBoolean(vi, "", id, &boolean); }), WarmAllocations([&] {
+          return KVTD481X2C_GetAttributeViString(vi, "", id, static_cast<ViInt32>(text.size()), text.data());
+        })};
+    for (const auto& allocations : by_type) {
+      if (!allocations) continue;
+      ++attributes_read;
+      EXPECT_EQ(0U, *allocations) << name;
+    }
   }
+  return attributes_read;
 }
 
 class Costs : public testing::Test {
@@ -163,7 +171,8 @@ TEST_F(Costs, WhoTheInstrumentIsCostsNothing) {
   expect("a revision of the last year", KVTD481X2C_ATTR_INSTRUMENT_FIRMWARE_REVISION);
 }
 
-TEST_F(Costs, NoReadOfAnyAttributeAllocates) { ExpectNoReadToAllocate(vi_); }
+// Of the others the responder does not know the words.
+TEST_F(Costs, NoReadOfAnyAttributeAllocates) { EXPECT_LE(150, ExpectNoReadToAllocate(vi_)); }
 
 class SimulatedCosts : public testing::Test {
  protected:
@@ -203,7 +212,7 @@ TEST_F(SimulatedCosts, GetAndSetAskTheSystemForNothing) {
 
 TEST_F(SimulatedCosts, NoReadOfAnyAttributeAllocates) {
   ASSERT_EQ(VI_SUCCESS, KVTD481X2C_SetLanHostname(vi_, kLongText));
-  ExpectNoReadToAllocate(vi_);
+  EXPECT_LE(200, ExpectNoReadToAllocate(vi_));
 }
 
 TEST_F(SimulatedCosts, TextsAreReadWholeWithoutAnAllocation) {
